@@ -1,0 +1,61 @@
+// Opens, writes and closes through the host's keyframe suites.
+#include "keyframes/KeyframeStreams.h"
+
+namespace {
+
+// The effect asks under no plug-in id of its own.
+constexpr AEGP_PluginID kNoPluginId = 0;
+
+}  // namespace
+
+// Every suite that closing needs is taken before anything opens, so that closing can't fail for
+// want of one.
+KeyframeStreams::KeyframeStreams(AEGP_SuiteHandler& suites, PF_ProgPtr effectRef,
+                                 const ActiveRanges& active)
+    : interfaceSuite(suites.PFInterfaceSuite()),
+      streamSuite(suites.StreamSuite()),
+      keyframeSuite(suites.KeyframeSuite()),
+      effectSuite(suites.EffectSuite()) {
+  error = Open(effectRef, active);
+}
+
+KeyframeStreams::~KeyframeStreams() {
+  for (const Output& output : outputs) {
+    if (output.addHandle != nullptr) keyframeSuite.AEGP_EndAddKeyframes(1, output.addHandle);
+  }
+  for (const Output& output : outputs) {
+    if (output.stream != nullptr) streamSuite.AEGP_DisposeStream(output.stream);
+  }
+  if (effect != nullptr) effectSuite.AEGP_DisposeEffect(effect);
+}
+
+PF_Err KeyframeStreams::Open(PF_ProgPtr effectRef, const ActiveRanges& active) {
+  PF_Err openError = interfaceSuite.AEGP_GetNewEffectForEffect(kNoPluginId, effectRef, &effect);
+  if (openError != PF_Err_NONE) return openError;
+  for (int32_t range = 0; range < kRangeCount; ++range) {
+    const auto slot = static_cast<size_t>(range);
+    if (!active[slot]) continue;
+    openError = streamSuite.AEGP_GetNewEffectStreamByIndex(
+        kNoPluginId, effect, RangeParameter(range, kRangeOutput), &outputs[slot].stream);
+    if (openError != PF_Err_NONE) return openError;
+  }
+  for (Output& output : outputs) {
+    if (output.stream == nullptr) continue;
+    openError = keyframeSuite.AEGP_StartAddKeyframes(output.stream, &output.addHandle);
+    if (openError != PF_Err_NONE) return openError;
+  }
+  return PF_Err_NONE;
+}
+
+PF_Err KeyframeStreams::Add(int32_t range, int32_t tick, uint32_t ticksPerSecond, double value) {
+  const Output& output = outputs[static_cast<size_t>(range)];
+  AEGP_StreamValue2 streamValue{};
+  streamValue.streamH = output.stream;
+  streamValue.val.one_d = value;
+  const A_Time time{tick, ticksPerSecond};
+  A_long keyIndex = 0;
+  const PF_Err addError =
+      keyframeSuite.AEGP_AddKeyframes(output.addHandle, AEGP_LTimeMode_LayerTime, &time, &keyIndex);
+  if (addError != PF_Err_NONE) return addError;
+  return keyframeSuite.AEGP_SetAddKeyframe(output.addHandle, keyIndex, &streamValue);
+}
