@@ -1,0 +1,120 @@
+// Options and commands.
+#include "workbench/cli/CommandLine.h"
+
+#include <CLI/CLI.hpp>
+#include <charconv>
+#include <iostream>
+
+#include "workbench/Failure.h"
+#include "workbench/cli/ApplyCommand.h"
+#include "workbench/cli/Options.h"
+#include "workbench/cli/ParamsCommand.h"
+#include "workbench/cli/Stage.h"
+
+namespace {
+
+constexpr int kWrongCommandLine = 2;
+constexpr int32_t kLargestSide = 30000;
+
+// Two whole numbers of at least 1 with `separator` between them.
+bool ParsePair(std::string_view text, char separator, int32_t& first, int32_t& second) {
+  const size_t middle = text.find(separator);
+  if (middle == std::string_view::npos) return false;
+  const auto parse = [](std::string_view part, int32_t& number) {
+    const auto [end, error] = std::from_chars(part.data(), part.data() + part.size(), number);
+    return error == std::errc{} && end == part.data() + part.size() && number >= 1;
+  };
+  return parse(text.substr(0, middle), first) && parse(text.substr(middle + 1), second);
+}
+
+FrameSize ParseSize(const std::string& text) {
+  FrameSize size;
+  if (!ParsePair(text, 'x', size.width, size.height) || size.width > kLargestSide ||
+      size.height > kLargestSide) {
+    throw UsageFailure("--size takes WxH in pixels, each 1 to 30000, such as 1920x1080, not \"" +
+                       text + "\".");
+  }
+  return size;
+}
+
+FrameRate ParseRate(const std::string& text) {
+  int32_t scale = 0;
+  FrameRate rate;
+  const std::string pair = text.find('/') == std::string::npos ? text + "/1" : text;
+  if (!ParsePair(pair, '/', scale, rate.step)) {
+    throw UsageFailure(
+        "--fps takes N or N/D, whole numbers above 0, such as 25 or 30000/1001, not \"" + text +
+        "\".");
+  }
+  rate.scale = static_cast<uint32_t>(scale);
+  return rate;
+}
+
+void AddStageOptions(CLI::App& command, StageOptions& options) {
+  command.add_option("--plugin", options.plugin,
+                     "The plug-in's library; default: the one beside the workbench");
+  command.add_option_function<std::string>(
+      "--size", [&options](const std::string& text) { options.size = ParseSize(text); },
+      "Comp and layer size, WxH; default 1920x1080");
+  command.add_option_function<std::string>(
+      "--fps", [&options](const std::string& text) { options.rate = ParseRate(text); },
+      "Frame rate, N or N/D; default 30");
+  command.add_option_function<std::string>(
+      "--work-area",
+      [&options](const std::string& text) { options.workArea = ParseTimeSpan(text); },
+      "START:END in seconds of comp time; default: the whole sound");
+  command.add_option("--layer-start", options.layerStart,
+                     "Where the layer's own time 0 stands in the comp, seconds; default 0");
+  command.add_option("--set", options.settings, "NAME=VALUE, sets a parameter; repeatable")
+      ->take_all()
+      ->allow_extra_args(false);
+  command.add_option("--project", options.project,
+                     "Reads parameters and record from this file if it exists, writes them back");
+  command.add_option("--record", options.record,
+                     "Writes the 3112 bytes of the record to this file");
+  command.add_flag("--quiet", options.quiet, "No progress and no table");
+}
+
+int RunParams(const StageOptions& options, bool asJson) {
+  Stage stage(options, "Solid", nullptr);
+  const std::string text = asJson ? ParameterJson(stage) : ParameterLines(stage);
+  stage.Finish();
+  std::cout << text;
+  return 0;
+}
+
+int RunAbout(const StageOptions& options) {
+  Stage stage(options, "Solid", nullptr);
+  const std::string text = stage.Session().AboutText();
+  stage.Finish();
+  std::cout << text << '\n';
+  return 0;
+}
+
+}  // namespace
+
+int RunCommandLine(int argc, const char* const* argv) {
+  CLI::App app("Runs the Delvior plug-in without its host application.", "workbench");
+  app.require_subcommand(1);
+  StageOptions stageOptions;
+  ApplyOptions applyOptions;
+  bool asJson = false;
+
+  CLI::App* apply = app.add_subcommand("apply", "Turns a sound into keyframes");
+  apply->add_option("AUDIO", applyOptions.audio, "Any audio or video file")->required();
+  apply->add_option("--out", applyOptions.out, "The keyframes: a .csv, .json or .txt file")
+      ->required();
+  CLI::App* params = app.add_subcommand("params", "Lists the parameters");
+  params->add_flag("--json", asJson, "As JSON");
+  CLI::App* about = app.add_subcommand("about", "Shows the About text");
+  for (CLI::App* command : {apply, params, about}) AddStageOptions(*command, stageOptions);
+
+  try {
+    app.parse(argc, argv);
+  } catch (const CLI::ParseError& failure) {
+    return app.exit(failure) == 0 ? 0 : kWrongCommandLine;
+  }
+  if (apply->parsed()) return RunApply(stageOptions, applyOptions);
+  if (params->parsed()) return RunParams(stageOptions, asJson);
+  return RunAbout(stageOptions);
+}

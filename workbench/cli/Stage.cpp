@@ -1,0 +1,86 @@
+// Builds the comp, the session and the instance.
+#include "workbench/cli/Stage.h"
+
+#include <algorithm>
+
+#include "workbench/Failure.h"
+#include "workbench/cli/ExecutableFolder.h"
+#include "workbench/cli/ProjectFile.h"
+#include "workbench/export/WholeFile.h"
+#include "workbench/host/ParameterText.h"
+
+namespace {
+
+constexpr size_t kAudioLayerParameter = 2;
+
+TimeSpan WholeSound(const AudioClip* sound, double layerStart) {
+  const double seconds =
+      sound != nullptr ? static_cast<double>(sound->FrameCount()) / kClipSampleRateHz : 0.0;
+  return {layerStart, layerStart + seconds};
+}
+
+Comp MakeComp(const StageOptions& options, const AudioClip* sound) {
+  Comp comp;
+  comp.width = options.size.width;
+  comp.height = options.size.height;
+  comp.timeScale = options.rate.scale;
+  comp.timeStep = options.rate.step;
+  const TimeSpan span = options.workArea.value_or(WholeSound(sound, options.layerStart));
+  comp.workAreaStart = TicksAt(span.start, comp.timeScale);
+  const int64_t end = TicksAt(span.end, comp.timeScale);
+  comp.workAreaDuration =
+      static_cast<int32_t>(std::min<int64_t>(end - comp.workAreaStart, INT32_MAX));
+  return comp;
+}
+
+std::filesystem::path PluginPath(const StageOptions& options) {
+  return options.plugin.empty() ? ExecutableFolder() / PluginFileName() : options.plugin;
+}
+
+std::string_view AsBytes(const std::vector<uint8_t>& record) {
+  return {reinterpret_cast<const char*>(record.data()), record.size()};
+}
+
+}  // namespace
+
+Stage::Stage(const StageOptions& stageOptions, const std::string& layerName,
+             std::shared_ptr<const AudioClip> sound)
+    : options(stageOptions), comp(MakeComp(options, sound.get())), session(PluginPath(options)) {
+  Layer& layer = comp.AddLayer(layerName, std::move(sound));
+  layer.startTick = TicksAt(options.layerStart, comp.timeScale);
+  std::optional<ProjectFile> project;
+  if (!options.project.empty()) project = ReadProjectFile(options.project);
+  instance = &session.AddInstance(layer, project ? project->record : std::nullopt);
+  instance->chosenLayers[kAudioLayerParameter] = &layer;
+  if (project) RestoreParameters(*project, options.project, session, *instance);
+  ApplySettings();
+}
+
+void Stage::ApplySettings() {
+  const ParameterList& parameters = session.Parameters();
+  for (const std::string& setting : options.settings) {
+    const size_t equals = setting.find('=');
+    if (equals == std::string::npos) {
+      throw UsageFailure("--set takes NAME=VALUE, such as \"Range 2/Active=on\", not \"" + setting +
+                         "\".");
+    }
+    const size_t index = parameters.Find(setting.substr(0, equals));
+    SetFromText(*instance, parameters, index, setting.substr(equals + 1));
+    session.UserChanged(*instance, index);
+  }
+}
+
+void Stage::Finish(const std::function<void()>& writeFirst) {
+  std::vector<uint8_t> record;
+  std::string project;
+  if (!options.record.empty() || !options.project.empty()) {
+    record = session.FlattenedRecord(*instance);
+  }
+  if (!options.project.empty()) {
+    project = ProjectFileText(session.Parameters(), *instance, record);
+  }
+  session.Close();
+  if (writeFirst) writeFirst();
+  if (!options.record.empty()) WriteWholeFile(options.record, AsBytes(record));
+  if (!options.project.empty()) WriteWholeFile(options.project, project);
+}

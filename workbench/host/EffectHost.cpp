@@ -1,0 +1,152 @@
+// One call of the plug-in, from the records made for it to the handles taken over.
+#include "workbench/host/EffectHost.h"
+
+#include <cstring>
+
+#include "workbench/host/HostCallbacks.h"
+#include "workbench/host/SuiteRegistry.h"
+
+namespace {
+
+// Whether a command may leave a new record, or none, behind.
+bool ChangesRecord(PF_Cmd cmd) {
+  return cmd == PF_Cmd_SEQUENCE_SETUP || cmd == PF_Cmd_SEQUENCE_RESETUP ||
+         cmd == PF_Cmd_SEQUENCE_FLATTEN || cmd == PF_Cmd_SEQUENCE_SETDOWN;
+}
+
+std::string MessageIn(const PF_OutData& out_data, PF_Cmd cmd, CommandScope& scope) {
+  const void* end = std::memchr(out_data.return_msg, 0, sizeof out_data.return_msg);
+  if (end == nullptr) {
+    scope.Broken(CommandName(cmd), "return_msg has no end");
+    return {};
+  }
+  return out_data.return_msg;
+}
+
+// The values of the parameters belong to the host; an effect changes them through suites alone.
+std::vector<PF_ParamDef> CopyOfParameters(const EffectInstance* instance) {
+  std::vector<PF_ParamDef> copy;
+  if (instance == nullptr) return copy;
+  for (size_t i = 0; i < instance->ParameterCount(); ++i) copy.push_back(instance->Value(i));
+  return copy;
+}
+
+void CheckParametersAreUntouched(const std::vector<PF_ParamDef>& before,
+                                 const EffectInstance* instance, CommandScope& scope) {
+  for (size_t i = 0; i < before.size(); ++i) {
+    if (std::memcmp(&before[i], &instance->Value(i), sizeof(PF_ParamDef)) != 0) {
+      scope.Broken(CommandName(scope.Command()),
+                   "parameter " + std::to_string(i) + " was written to in the host's own array");
+    }
+  }
+}
+
+}  // namespace
+
+EffectHost::EffectHost(const std::filesystem::path& library, HostProfile hostProfile)
+    : profile(std::move(hostProfile)), plugin(library) {}
+
+PF_InData EffectHost::MakeInData(PF_Cmd cmd, EffectInstance* instance, CommandScope& scope) {
+  PF_InData in_data{};
+  in_data.inter = InteractCallbacks();
+  in_data.utils = UtilityCallbacks();
+  in_data.effect_ref = scope.EffectRef();
+  in_data.quality = PF_Quality_HI;
+  in_data.version = profile.version;
+  in_data.appl_id = profile.applId;
+  in_data.num_params = static_cast<A_long>(parameters.Count());
+  in_data.global_data = cmd == PF_Cmd_GLOBAL_SETUP ? nullptr : globalData;
+  in_data.pica_basicP = profile.hasBasicSuite ? BasicSuite() : nullptr;
+  in_data.downsample_x = {1, 1};
+  in_data.downsample_y = {1, 1};
+  in_data.pixel_aspect_ratio = {1, 1};
+  if (instance == nullptr) return in_data;
+
+  const Comp& comp = *instance->EffectLayer().comp;
+  in_data.sequence_data = instance->sequenceData;
+  in_data.width = comp.width;
+  in_data.height = comp.height;
+  in_data.time_scale = comp.timeScale;
+  in_data.time_step = comp.timeStep;
+  in_data.local_time_step = comp.timeStep;
+  in_data.total_time = comp.workAreaDuration;
+  in_data.current_time = CompToLayerTime(instance->EffectLayer(), {0, comp.timeScale}).value;
+  return in_data;
+}
+
+CommandResult EffectHost::Send(PF_Cmd cmd, EffectInstance* instance, void* extra, Fault fault) {
+  CommandScope scope(*this, instance, cmd, fault);
+  PF_InData in_data = MakeInData(cmd, instance, scope);
+  PF_OutData out_data{};
+  out_data.global_data = in_data.global_data;
+  out_data.sequence_data = in_data.sequence_data;
+  const std::vector<PF_ParamDef> before = CopyOfParameters(instance);
+  if (instance != nullptr) instance->written.clear();
+
+  CommandResult result;
+  try {
+    result.error =
+        plugin.EntryPoint()(cmd, &in_data, &out_data,
+                            instance != nullptr ? instance->Params() : nullptr, nullptr, extra);
+  } catch (...) {
+    scope.Broken(CommandName(cmd), "something was thrown out of the entry point");
+    result.error = PF_Err_INTERNAL_STRUCT_DAMAGED;
+  }
+  result.outFlags = out_data.out_flags;
+  result.message = MessageIn(out_data, cmd, scope);
+  CheckParametersAreUntouched(before, instance, scope);
+  TakeOver(cmd, instance, in_data, out_data, scope, result);
+  scope.CheckAllIsGivenBack();
+  result.broken = scope.BrokenRules();
+  result.hostCalls = scope.CallCount();
+  result.faultStruck = scope.FaultStruck();
+  return result;
+}
+
+void EffectHost::TakeOver(PF_Cmd cmd, EffectInstance* instance, const PF_InData& in_data,
+                          const PF_OutData& out_data, CommandScope& scope, CommandResult& result) {
+  if (cmd == PF_Cmd_GLOBAL_SETUP) {
+    declaredFlags = out_data.out_flags;
+    declaredFlags2 = out_data.out_flags2;
+    declaredVersion = out_data.my_version;
+  }
+  if (cmd == PF_Cmd_GLOBAL_SETUP || cmd == PF_Cmd_GLOBAL_SETDOWN) {
+    globalData = out_data.global_data;
+    if (globalData != nullptr && !handles.IsLive(globalData)) {
+      scope.Broken(CommandName(cmd), "global_data is not a handle of the host's");
+      globalData = nullptr;
+    }
+  }
+  if (cmd == PF_Cmd_PARAMS_SETUP && result.error == PF_Err_NONE &&
+      out_data.num_params != static_cast<A_long>(parameters.Count())) {
+    scope.Broken(CommandName(cmd), "num_params is " + std::to_string(out_data.num_params) +
+                                       ", but " + std::to_string(parameters.Count()) +
+                                       " parameters stand");
+  }
+  if (instance != nullptr && ChangesRecord(cmd)) {
+    instance->sequenceData = out_data.sequence_data;
+    if (instance->sequenceData != nullptr && !handles.IsLive(instance->sequenceData)) {
+      scope.Broken(CommandName(cmd), "sequence_data is not a handle of the host's");
+      instance->sequenceData = nullptr;
+    }
+  }
+  if (cmd == PF_Cmd_GET_FLATTENED_SEQUENCE_DATA) TakeOverFlatCopy(in_data, out_data, scope, result);
+}
+
+// The copy is the host's to dispose of.
+void EffectHost::TakeOverFlatCopy(const PF_InData& in_data, const PF_OutData& out_data,
+                                  CommandScope& scope, CommandResult& result) {
+  const PF_Handle copy = out_data.sequence_data;
+  if (copy == in_data.sequence_data) {
+    if (result.error == PF_Err_NONE) {
+      scope.Broken(CommandName(scope.Command()), "the copy is the running record itself");
+    }
+    return;
+  }
+  if (!handles.IsLive(copy)) {
+    scope.Broken(CommandName(scope.Command()), "the copy is not a handle of the host's");
+    return;
+  }
+  result.flatRecord = handles.Bytes(copy);
+  handles.Dispose(copy);
+}

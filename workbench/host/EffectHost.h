@@ -1,0 +1,88 @@
+// Sends commands to a loaded plug-in as a host does, and checks what the plug-in does with them.
+#pragma once
+
+#include <filesystem>
+#include <functional>
+#include <set>
+#include <string>
+#include <vector>
+
+#include "AE_Effect.h"
+#include "workbench/host/CommandScope.h"
+#include "workbench/host/EffectInstance.h"
+#include "workbench/host/MovableHandles.h"
+#include "workbench/host/ParameterList.h"
+#include "workbench/host/PluginLibrary.h"
+
+constexpr A_long kAfterEffectsId = 0x46585443;  // 'FXTC'
+
+// What kind of host this is.
+struct HostProfile {
+  PF_SpecVersion version{13, 25};
+  A_long applId = kAfterEffectsId;
+  bool hasBasicSuite = true;
+  std::set<std::string> missingSuites;  // by name
+};
+
+// What came back from one command.
+struct CommandResult {
+  PF_Err error = PF_Err_NONE;
+  PF_OutFlags outFlags = 0;
+  std::string message;              // the return message, empty where there is none
+  std::vector<std::string> broken;  // the rules that the plug-in broke
+  std::vector<uint8_t> flatRecord;  // of PF_Cmd_GET_FLATTENED_SEQUENCE_DATA
+  int64_t hostCalls = 0;
+  bool faultStruck = false;
+
+  // Whether the host shows the message as a failure.
+  bool ShowsMessage() const { return (outFlags & PF_OutFlag_DISPLAY_ERROR_MESSAGE) != 0; }
+};
+
+class EffectHost {
+ public:
+  // Loads the library; sends nothing yet. Throws JobFailure.
+  explicit EffectHost(const std::filesystem::path& library, HostProfile hostProfile = {});
+  EffectHost(const EffectHost&) = delete;
+  EffectHost& operator=(const EffectHost&) = delete;
+
+  // Calls the plug-in with one command.
+  //
+  // instance   the effect that the command is for; null for the commands of the library
+  // extra      a PF_EventExtra for PF_Cmd_EVENT
+  // Handles that come back are taken over: global data and an instance's record.
+  CommandResult Send(PF_Cmd cmd, EffectInstance* instance = nullptr, void* extra = nullptr,
+                     Fault fault = {});
+
+  MovableHandles& Handles() { return handles; }
+  ParameterList& Parameters() { return parameters; }
+  const HostProfile& Profile() const { return profile; }
+  HostProfile& Profile() { return profile; }
+
+  // What global setup declared.
+  PF_OutFlags DeclaredFlags() const { return declaredFlags; }
+  PF_OutFlags2 DeclaredFlags2() const { return declaredFlags2; }
+  A_u_long DeclaredVersion() const { return declaredVersion; }
+  PF_Handle GlobalData() const { return globalData; }
+
+  // Which windows' events the plug-in has asked for, as PF_CustomEFlag_* bits.
+  A_long customEvents = 0;
+
+  // Gets each text that the plug-in shows in the Info panel.
+  std::function<void(const char* text)> onInfoText;
+
+ private:
+  PF_InData MakeInData(PF_Cmd cmd, EffectInstance* instance, CommandScope& scope);
+  void TakeOver(PF_Cmd cmd, EffectInstance* instance, const PF_InData& in_data,
+                const PF_OutData& out_data, CommandScope& scope, CommandResult& result);
+  void TakeOverFlatCopy(const PF_InData& in_data, const PF_OutData& out_data, CommandScope& scope,
+                        CommandResult& result);
+
+  HostProfile profile;
+  PluginLibrary plugin;
+  MovableHandles handles;
+  ParameterList parameters;
+  PF_Handle globalData = nullptr;
+  PF_OutFlags declaredFlags = 0;
+  PF_OutFlags2 declaredFlags2 = 0;
+  A_u_long declaredVersion = 0;
+};

@@ -1,0 +1,145 @@
+// What a user does, as the commands that the plug-in gets.
+#include "workbench/host/HostSession.h"
+
+#include <algorithm>
+
+#include "workbench/Failure.h"
+
+namespace {
+
+constexpr const char* kApplyRow = "Commands";
+
+void ThrowIfBroken(const std::vector<std::string>& broken) {
+  if (broken.empty()) return;
+  std::string text = "The plug-in broke a rule of the host. " + broken.front();
+  if (broken.size() > 1) text += " (and " + std::to_string(broken.size() - 1) + " more)";
+  throw JobFailure(text);
+}
+
+// The Apply button's middle: it begins at the middle of the row and is 50 wide.
+PF_Point ApplyPoint(const PF_ParamDef& row) {
+  return {row.ui_width / 2 + 25, row.ui_height / 2};
+}
+
+size_t FindPanelRow(const ParameterList& parameters, const char* name) {
+  for (size_t i = 1; i < parameters.Count(); ++i) {
+    const DeclaredParameter& parameter = parameters.At(i);
+    if ((parameter.def.ui_flags & PF_PUI_CONTROL) != 0 && parameter.Name() == name) return i;
+  }
+  throw JobFailure(std::string("The plug-in has no row named \"") + name +
+                   "\" of its own drawing.");
+}
+
+}  // namespace
+
+HostSession::HostSession(const std::filesystem::path& library, HostProfile profile)
+    : host(library, std::move(profile)) {
+  context.w_type = PF_Window_EFFECT;
+  Demand(PF_Cmd_GLOBAL_SETUP);
+  isSetUp = true;
+  Demand(PF_Cmd_PARAMS_SETUP);
+}
+
+HostSession::~HostSession() {
+  try {
+    Close();
+  } catch (const JobFailure&) {
+    // Whoever ends a session early has another failure to tell.
+  }
+}
+
+CommandResult HostSession::Demand(PF_Cmd cmd, EffectInstance* instance, void* extra) {
+  CommandResult result = host.Send(cmd, instance, extra);
+  ThrowIfBroken(result.broken);
+  if (result.error != PF_Err_NONE) {
+    std::string text = CommandName(cmd) + ": the plug-in returned " + std::to_string(result.error);
+    if (result.ShowsMessage()) text += ": " + result.message;
+    throw JobFailure(text);
+  }
+  if (result.ShowsMessage()) messages.push_back(result.message);
+  return result;
+}
+
+EffectInstance& HostSession::AddInstance(Layer& layer,
+                                         const std::optional<std::vector<uint8_t>>& record) {
+  auto added = std::make_unique<EffectInstance>(host.Parameters(), layer);
+  EffectInstance& instance = *added;
+  if (record) {
+    instance.sequenceData = host.Handles().NewFrom(*record);
+    if (instance.sequenceData == nullptr) throw JobFailure("The stored record is too large.");
+  }
+  instances.push_back(std::move(added));
+  Demand(record ? PF_Cmd_SEQUENCE_RESETUP : PF_Cmd_SEQUENCE_SETUP, &instance);
+  Demand(PF_Cmd_UPDATE_PARAMS_UI, &instance);
+  return instance;
+}
+
+void HostSession::UserChanged(EffectInstance& instance, size_t parameter) {
+  const PF_ParamFlags flags = instance.Value(parameter).flags;
+  if ((flags & PF_ParamFlag_SUPERVISE) != 0) Demand(PF_Cmd_USER_CHANGED_PARAM, &instance);
+  if ((host.DeclaredFlags() & PF_OutFlag_SEND_UPDATE_PARAMS_UI) != 0) {
+    Demand(PF_Cmd_UPDATE_PARAMS_UI, &instance);
+  }
+}
+
+PF_EventExtra HostSession::PointerEvent(EffectInstance& instance, size_t row, PF_EventType type,
+                                        PF_Point point) {
+  const PF_ParamDef& def = instance.Value(row);
+  PF_EventExtra extra{};
+  extra.contextH = &contextAddress;
+  extra.e_type = type;
+  extra.u.do_click.screen_point = point;
+  extra.u.do_click.num_clicks = 1;
+  extra.effect_win.index = static_cast<PF_ParamIndex>(row);
+  extra.effect_win.area = PF_EA_CONTROL;
+  extra.effect_win.current_frame = {0, 0, def.ui_width, def.ui_height};
+  return extra;
+}
+
+void HostSession::PressApply(EffectInstance& instance) {
+  const size_t row = FindPanelRow(host.Parameters(), kApplyRow);
+  const PF_Point point = ApplyPoint(instance.Value(row));
+  PF_EventExtra press = PointerEvent(instance, row, PF_Event_DO_CLICK, point);
+  Demand(PF_Cmd_EVENT, &instance, &press);
+  if (press.u.do_click.send_drag == 0) {
+    throw JobFailure(
+        "The Apply button is disabled, since no range is active. Turn one on, such as with "
+        "--set \"Range 1/Active=on\".");
+  }
+  PF_EventExtra release = PointerEvent(instance, row, PF_Event_DRAG, point);
+  release.u.do_click.last_time = 1;
+  const size_t told = messages.size();
+  Demand(PF_Cmd_EVENT, &instance, &release);
+  if (messages.size() > told) throw JobFailure(messages.back());
+}
+
+std::vector<uint8_t> HostSession::FlattenedRecord(EffectInstance& instance) {
+  if ((host.DeclaredFlags2() & PF_OutFlag2_SUPPORTS_GET_FLATTENED_SEQUENCE_DATA) != 0) {
+    return Demand(PF_Cmd_GET_FLATTENED_SEQUENCE_DATA, &instance).flatRecord;
+  }
+  Demand(PF_Cmd_SEQUENCE_FLATTEN, &instance);
+  std::vector<uint8_t> record = host.Handles().Bytes(instance.sequenceData);
+  Demand(PF_Cmd_SEQUENCE_RESETUP, &instance);
+  return record;
+}
+
+std::string HostSession::AboutText() {
+  std::string text = Demand(PF_Cmd_ABOUT).message;
+  std::replace(text.begin(), text.end(), '\r', '\n');
+  return text;
+}
+
+void HostSession::Close() {
+  while (!instances.empty()) {
+    const std::unique_ptr<EffectInstance> last = std::move(instances.back());
+    instances.pop_back();
+    Demand(PF_Cmd_SEQUENCE_SETDOWN, last.get());
+  }
+  if (!isSetUp) return;
+  isSetUp = false;
+  Demand(PF_Cmd_GLOBAL_SETDOWN);
+  const size_t left = host.Handles().LiveCount();
+  if (left > 0) {
+    ThrowIfBroken({"Global setdown: " + std::to_string(left) + " handle(s) never disposed of"});
+  }
+}

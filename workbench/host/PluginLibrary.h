@@ -1,0 +1,20 @@
+// The plug-in's library, loaded from a file.
+#pragma once
+
+#include <filesystem>
+#include <memory>
+
+#include "AE_Effect.h"
+
+class PluginLibrary {
+ public:
+  // Loads `path` and finds its entry point. Throws JobFailure where there is no such file, where it
+  // isn't a library for this system, or where it has no entry point.
+  explicit PluginLibrary(const std::filesystem::path& path);
+
+  PF_EntryPoint EntryPoint() const { return entryPoint; }
+
+ private:
+  std::shared_ptr<void> module;
+  PF_EntryPoint entryPoint = nullptr;
+};
