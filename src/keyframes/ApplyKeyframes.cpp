@@ -134,16 +134,15 @@ PF_Err ApplyKeyframes(PF_InData* in_data, PF_OutData* out_data, PF_ParamDef** pa
         PF_Err_BAD_CALLBACK_PARAM);
   }
   const PF_AdvAppSuite1& advAppSuite = suites.AdvAppSuite();
-  RunReport report;
-  {
-    KeyframeStreams streams(suites, in_data->effect_ref, settings.active);
-    if (streams.Error() != PF_Err_NONE) {
-      return Refuse(out_data,
-                    "Delvior: the output sliders could not be opened. No keyframe was made.",
-                    streams.Error());
-    }
-    WalkWorkArea(in_data, params, settings, *clock, advAppSuite, streams, report);
+  KeyframeStreams streams(suites, in_data->effect_ref, settings.active);
+  if (streams.Error() != PF_Err_NONE) {
+    return Refuse(out_data,
+                  "Delvior: the output sliders could not be opened. No keyframe was made.",
+                  streams.Error());
   }
+  RunReport report;
+  WalkWorkArea(in_data, params, settings, *clock, advAppSuite, streams, report);
+  report.Note("to finish an output slider", streams.Close());
   report.Show(out_data);
   return report.FirstError();
 }

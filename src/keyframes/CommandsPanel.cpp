@@ -4,6 +4,7 @@
 #include <cstdint>
 
 #include "host/HandleLock.h"
+#include "host/ReturnMessage.h"
 #include "keyframes/ApplyKeyframes.h"
 #include "shell/SequenceRecord.h"
 
@@ -92,7 +93,11 @@ PF_Err HandleCommandsEvent(PF_InData* in_data, PF_OutData* out_data, PF_ParamDef
   if (extra->e_type != PF_Event_DO_CLICK && extra->e_type != PF_Event_DRAG) return PF_Err_NONE;
   extra->evt_out_flags = PF_EO_HANDLED_EVENT;
   const LockedRecord<SequenceRecord> record(in_data, in_data->sequence_data);
-  if (!record) return record.Error();
+  if (!record) {
+    ShowReturnMessage(out_data,
+                      "Delvior could not reach its record, so the Apply button did nothing.");
+    return record.Error();
+  }
   if (extra->e_type == PF_Event_DO_CLICK) {
     Press(*record, *extra);
   } else if (Drag(in_data, out_data, params, *record, *extra)) {

@@ -20,13 +20,7 @@ KeyframeStreams::KeyframeStreams(AEGP_SuiteHandler& suites, PF_ProgPtr effectRef
 }
 
 KeyframeStreams::~KeyframeStreams() {
-  for (const Output& output : outputs) {
-    if (output.addHandle != nullptr) keyframeSuite.AEGP_EndAddKeyframes(1, output.addHandle);
-  }
-  for (const Output& output : outputs) {
-    if (output.stream != nullptr) streamSuite.AEGP_DisposeStream(output.stream);
-  }
-  if (effect != nullptr) effectSuite.AEGP_DisposeEffect(effect);
+  Close();
 }
 
 PF_Err KeyframeStreams::Open(PF_ProgPtr effectRef, const ActiveRanges& active) {
@@ -58,4 +52,22 @@ PF_Err KeyframeStreams::Add(int32_t range, int32_t tick, uint32_t ticksPerSecond
       keyframeSuite.AEGP_AddKeyframes(output.addHandle, AEGP_LTimeMode_LayerTime, &time, &keyIndex);
   if (addError != PF_Err_NONE) return addError;
   return keyframeSuite.AEGP_SetAddKeyframe(output.addHandle, keyIndex, &streamValue);
+}
+
+PF_Err KeyframeStreams::Close() {
+  PF_Err firstError = PF_Err_NONE;
+  const auto note = [&firstError](PF_Err closeError) {
+    if (firstError == PF_Err_NONE) firstError = closeError;
+  };
+  for (Output& output : outputs) {
+    if (output.addHandle != nullptr) note(keyframeSuite.AEGP_EndAddKeyframes(1, output.addHandle));
+    output.addHandle = nullptr;
+  }
+  for (Output& output : outputs) {
+    if (output.stream != nullptr) note(streamSuite.AEGP_DisposeStream(output.stream));
+    output.stream = nullptr;
+  }
+  if (effect != nullptr) note(effectSuite.AEGP_DisposeEffect(effect));
+  effect = nullptr;
+  return firstError;
 }

@@ -32,6 +32,10 @@ class KeyframeStreams {
   // Returns 0 or the host's error, and then the keyframe is missing or has no value of ours.
   PF_Err Add(int32_t range, int32_t tick, uint32_t ticksPerSecond, double value);
 
+  // Hands the keyframes to the sliders and closes all that is open. Returns the host's first error:
+  // a slider may lack its keyframes then. What goes without it closes by itself.
+  PF_Err Close();
+
  private:
   struct Output {
     AEGP_StreamRefH stream = nullptr;

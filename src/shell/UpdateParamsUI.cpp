@@ -70,24 +70,32 @@ PF_Err UpdateAllRows(PF_InData* in_data, PF_ParamDef** params, const ParamUtilsS
   return UpdateRows(in_data, params, suite, rows);
 }
 
-void UpdateApplyButton(PF_InData* in_data, PF_ParamDef** params) {
+PF_Err UpdateApplyButton(PF_InData* in_data, PF_ParamDef** params) {
+  if (in_data->sequence_data == nullptr) return PF_Err_NONE;
   const LockedRecord<SequenceRecord> record(in_data, in_data->sequence_data);
-  if (!record) return;
+  if (!record) return record.Error();
   record->applyButtonState = AnyRangeActive(params) ? kApplyButtonNormal : kApplyButtonDisabled;
   record->applySecondState = record->applyButtonState;
+  return PF_Err_NONE;
+}
+
+PF_Err ShowFailure(PF_OutData* out_data, const char* text, PF_Err error) {
+  if (error != PF_Err_NONE) ShowReturnMessage(out_data, text);
+  return error;
 }
 
 }  // namespace
 
 PF_Err UpdateParamsUI(PF_InData* in_data, PF_OutData* out_data, PF_ParamDef** params) {
-  UpdateApplyButton(in_data, params);
+  const PF_Err buttonError =
+      ShowFailure(out_data, "Delvior could not update its Apply button, for want of its record.",
+                  UpdateApplyButton(in_data, params));
   const ParamUtilsSuite suite(in_data, out_data, kPFParamUtilsSuite, kPFParamUtilsSuiteVersion2,
                               {"Failed to acquire suite.", "Failed to release suite."});
   if (!suite) return suite.Error();
   out_data->out_flags |= PF_OutFlag_REFRESH_UI;
-  const PF_Err error = UpdateAllRows(in_data, params, suite);
-  if (error != PF_Err_NONE) {
-    ShowReturnMessage(out_data, "Delvior could not update which of its controls are enabled.");
-  }
-  return error;
+  const PF_Err rowsError =
+      ShowFailure(out_data, "Delvior could not update which of its controls are enabled.",
+                  UpdateAllRows(in_data, params, suite));
+  return buttonError != PF_Err_NONE ? buttonError : rowsError;
 }

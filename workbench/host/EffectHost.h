@@ -21,7 +21,7 @@ struct HostProfile {
   PF_SpecVersion version{13, 25};
   A_long applId = kAfterEffectsId;
   bool hasBasicSuite = true;
-  std::set<std::string> missingSuites;  // by name
+  std::set<std::string> missingSuites = {};  // by name
 };
 
 // What came back from one command.
