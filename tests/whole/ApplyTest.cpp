@@ -97,11 +97,12 @@ TEST(Apply, WritesActiveRangesAloneEachOnItsOwnSlider) {
     Instance instance(0.3);
     instance.SetUpSequence();
     instance.Set("Range 1/Active", "off");
-    instance.Set("Range " + std::to_string(alone) + "/Active", "on");
+    CoverPulses(instance, alone);
     ExpectClean(instance.PressAndRelease());
     for (int range = 1; range <= 3; ++range) {
       EXPECT_EQ(instance.Output(range).size(), range == alone ? 9U : 0U) << alone;
     }
+    EXPECT_EQ(instance.Output(alone)[5].value, 100.0) << "its own bands are heard";
   }
 }
 
@@ -185,6 +186,8 @@ TEST(Apply, FallsOffFromItsOwnPastAlone) {
         << i;
     EXPECT_EQ(instance.Output(3)[i].value, instance.Output(3)[i - 1].value) << i;
   }
+  EXPECT_NEAR(instance.Output(3).front().value, instance.Output(1).front().value / 50.0 - 1.0, 1e-9)
+      << "the same sound on another scale";
   EXPECT_GT(instance.Output(3).back().value, 1.0) << "an integral leaves the scale";
 }
 
@@ -215,11 +218,11 @@ TEST(Apply, SurvivesParametersOutsideTheirRanges) {
     Instance instance(0.1);
     instance.SetUpSequence();
     for (const size_t slider : kSliders) instance.effect->Value(slider).u.fd.value = value;
-    for (const size_t corner : {22, 23}) {
+    for (const size_t corner : {22U, 23U}) {
       instance.effect->Value(corner).u.td.x_value = value;
       instance.effect->Value(corner).u.td.y_value = value;
     }
-    for (const size_t popup : {3, 21, 24, 26}) instance.effect->Value(popup).u.pd.value = value;
+    for (const size_t popup : {3U, 21U, 24U, 26U}) instance.effect->Value(popup).u.pd.value = value;
     const CommandResult result = instance.PressAndRelease();
     EXPECT_EQ(result.error, PF_Err_NONE) << value;
     EXPECT_EQ(instance.Output(1).size(), 3U) << value;

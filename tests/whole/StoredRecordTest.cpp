@@ -67,7 +67,8 @@ TEST(StoredRecord, OfTheRightSizeIsUsedAsItStandsWhateverItHolds) {
 
 TEST(StoredRecord, OfAnyOtherSizeKeepsTheHeaderThatIsThereAndGetsTheDefaultMap) {
   const std::vector<uint8_t> fresh = NewRecord();
-  for (const size_t size : {0, 1, 3, 4, 8, 15, 16, 35, 36, 47, 48, 3111, 3113, 10000}) {
+  for (const size_t size :
+       {0U, 1U, 3U, 4U, 8U, 15U, 16U, 35U, 36U, 47U, 48U, 3111U, 3113U, 10000U}) {
     Instance instance(0.1);
     const std::vector<uint8_t> stored = StoredBytes(size);
     instance.effect->sequenceData = instance.host.Handles().NewFrom(stored);
