@@ -63,7 +63,7 @@ void ApplyRun(benchmark::State& state) {
   int32_t keyframes = seconds * kKeyframesPerSecond;
   double fastestApply = std::numeric_limits<double>::max();
   double fastestLevels = fastestApply;
-  for (auto _ : state) {
+  while (state.KeepRunning()) {
     const double applied = SecondsOf([&] { apply.session.PressApply(*apply.instance); });
     const double computed =
         SecondsOf([&] { levels.session.Host().Send(PF_Cmd_EVENT, levels.instance, &keyframes); });

@@ -26,8 +26,8 @@ class AEGP_SuiteHandler {
  private:
   template <typename Suite>
   struct Slot {
-    const char* name;
-    int version;
+    const char* name = nullptr;
+    int version = 0;
     const Suite* suite = nullptr;
   };
 

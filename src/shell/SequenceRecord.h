@@ -17,14 +17,14 @@ enum ApplyButtonState : uint32_t {
 // The flat form in a project and the form in memory are the same bytes, and their number is the
 // only check that stored data gets: any field may hold anything.
 struct SequenceRecord {
-  int32_t lastRenderTime;  // current_time of the last frame rendered, in ticks of its call
-  uint8_t alignment[4];    // never written, never read
-  double heldValue[3];     // per range, the held output drawn after the last render, 0.0 or above
-  uint32_t applyButtonState;  // an ApplyButtonState
-  uint32_t applySecondState;  // follows applyButtonState; nothing shows it
-  uint32_t applyReserved;     // 2, but 0 while an Apply runs; nothing reads it
-  uint32_t applyTracking;     // 1 while a press that began on the button is tracked
-  GradientRecord gradient;    // the colour map, which is stored nowhere else
+  int32_t lastRenderTime = 0;  // current_time of the last frame rendered, in ticks of its call
+  uint8_t alignment[4] = {};   // never written, never read
+  double heldValue[3] = {};  // per range, the held output drawn after the last render, 0.0 or above
+  uint32_t applyButtonState = 0;  // an ApplyButtonState
+  uint32_t applySecondState = 0;  // follows applyButtonState; nothing shows it
+  uint32_t applyReserved = 0;     // 2, but 0 while an Apply runs; nothing reads it
+  uint32_t applyTracking = 0;     // 1 while a press that began on the button is tracked
+  GradientRecord gradient;        // the colour map, which is stored nowhere else
 };
 
 constexpr size_t kSequenceHeaderSize = 48;

@@ -1,4 +1,5 @@
-// Catches conversions whose result would depend on the processor: NaN, infinities, the ends of a range.
+// Catches conversions whose result would depend on the processor: NaN, infinities, the ends of a
+// range.
 #include "platform/Truncate.h"
 
 #include <gtest/gtest.h>

@@ -10,6 +10,8 @@
 
 namespace {
 
+constexpr const char* kNoText = nullptr;
+
 struct ThrownCase {
   const char* what;
   std::function<void()> raise;
@@ -21,7 +23,7 @@ const ThrownCase kCases[] = {
     {"an error code", [] { throw 516; }, 516, ""},
     {"a code that means success", [] { throw 0; }, 512, ""},
     {"a text", [] { throw "CreateCustomPanels failed!"; }, 512, "CreateCustomPanels failed!"},
-    {"no text", [] { throw static_cast<const char*>(nullptr); }, 512, "Delvior stopped"},
+    {"no text", [] { throw kNoText; }, 512, "Delvior stopped"},
     {"no memory", [] { throw std::bad_alloc(); }, 4, ""},
     {"an exception", [] { throw std::runtime_error(std::string(400, 'x')); }, 512, "xxx"},
     {"anything else", [] { throw 1.5F; }, 512, "Delvior stopped"},

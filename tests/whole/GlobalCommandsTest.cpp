@@ -37,9 +37,9 @@ TEST(GlobalCommands, StayAwayFromAHostWithoutKeyframes) {
 }
 
 struct FacadeCase {
-  const char* what;
+  const char* what = "";
   HostProfile profile;
-  int64_t hostCalls;  // acquires and releases
+  int64_t hostCalls = 0;  // acquires and releases
 };
 
 TEST(GlobalCommands, FacadeHoldsWhatTheHostHasAndGoesOnWithoutTheRest) {

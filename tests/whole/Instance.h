@@ -8,6 +8,7 @@
 #include <cstring>
 #include <memory>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "AE_EffectUI.h"
@@ -42,7 +43,7 @@ inline void ExpectClean(const CommandResult& result) {
 class Instance {
  public:
   explicit Instance(double seconds = 3.0, HostProfile profile = {})
-      : layer(comp.AddLayer("sound", PulsingSine(seconds))), host(PLUGIN_PATH, profile) {
+      : layer(comp.AddLayer("sound", PulsingSine(seconds))), host(PLUGIN_PATH, std::move(profile)) {
     comp.workAreaDuration = static_cast<int32_t>(std::lround(seconds * comp.timeScale));
     ExpectClean(host.Send(PF_Cmd_GLOBAL_SETUP));
     ExpectClean(host.Send(PF_Cmd_PARAMS_SETUP));

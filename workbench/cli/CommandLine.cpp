@@ -13,7 +13,6 @@
 
 namespace {
 
-constexpr int kWrongCommandLine = 2;
 constexpr int32_t kLargestSide = 30000;
 
 // Two whole numbers of at least 1 with `separator` between them.
@@ -112,7 +111,8 @@ int RunCommandLine(int argc, const char* const* argv) {
   try {
     app.parse(argc, argv);
   } catch (const CLI::ParseError& failure) {
-    return app.exit(failure) == 0 ? 0 : kWrongCommandLine;
+    if (failure.get_exit_code() == 0) return app.exit(failure);
+    throw UsageFailure(std::string(failure.what()) + ". Run with --help for what there is.");
   }
   if (apply->parsed()) return RunApply(stageOptions, applyOptions);
   if (params->parsed()) return RunParams(stageOptions, asJson);

@@ -1,6 +1,6 @@
 // The workbench's command line.
 #pragma once
 
-// Runs the command that the arguments name. Returns the exit status: 0 done, 2 where the arguments
-// are wrong, with a line on the error stream. Throws JobFailure and UsageFailure.
+// Runs the command that the arguments name, or shows the help that they ask for. Returns the exit
+// status. Throws JobFailure and UsageFailure.
 int RunCommandLine(int argc, const char* const* argv);

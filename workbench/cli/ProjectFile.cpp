@@ -49,9 +49,20 @@ std::vector<uint8_t> BytesFromHex(const std::filesystem::path& path, const std::
   return bytes;
 }
 
+// A conversion to a narrower type would take any number without a word.
+template <typename Whole>
+Whole WholeFrom(const std::filesystem::path& path, const json& stored, const char* name) {
+  const json& number = stored.at(name);
+  if (!number.is_number_integer() || number.get<double>() != number.get<Whole>()) {
+    Refuse(path, std::string("a keyframe's ") + name + " is no whole number of 32 bits");
+  }
+  return number.get<Whole>();
+}
+
 Keyframe KeyframeFrom(const std::filesystem::path& path, const json& stored) {
   Keyframe keyframe;
-  keyframe.time = {stored.at("tick").get<A_long>(), stored.at("scale").get<A_u_long>()};
+  keyframe.time = {WholeFrom<A_long>(path, stored, "tick"),
+                   WholeFrom<A_u_long>(path, stored, "scale")};
   keyframe.value = stored.at("value").get<double>();
   if (keyframe.time.scale == 0) Refuse(path, "a keyframe's scale is 0");
   return keyframe;
@@ -75,15 +86,20 @@ ProjectFile ProjectFrom(const std::filesystem::path& path, const json& stored) {
 }  // namespace
 
 std::optional<ProjectFile> ReadProjectFile(const std::filesystem::path& path) {
-  if (!std::filesystem::exists(path)) return std::nullopt;
+  std::error_code code;
+  const auto type = std::filesystem::status(path, code).type();
+  if (type == std::filesystem::file_type::not_found) return std::nullopt;
+  if (type != std::filesystem::file_type::regular) Refuse(path, "it is no plain file");
   std::ifstream file(path, std::ios::binary);
   std::ostringstream text;
   text << file.rdbuf();
   if (!file) Refuse(path, "it can't be read");
   try {
     return ProjectFrom(path, json::parse(text.str()));
-  } catch (const json::exception& failure) {
-    Refuse(path, failure.what());
+  } catch (const json::parse_error& failure) {
+    Refuse(path, "it is no JSON from byte " + std::to_string(failure.byte) + " on");
+  } catch (const json::exception&) {
+    Refuse(path, "a part of it is missing or is of another kind");
   }
 }
 

@@ -43,9 +43,11 @@ std::string_view AsBytes(const std::vector<uint8_t>& record) {
 
 }  // namespace
 
-Stage::Stage(const StageOptions& stageOptions, const std::string& layerName,
+Stage::Stage(StageOptions stageOptions, const std::string& layerName,
              std::shared_ptr<const AudioClip> sound)
-    : options(stageOptions), comp(MakeComp(options, sound.get())), session(PluginPath(options)) {
+    : options(std::move(stageOptions)),
+      comp(MakeComp(options, sound.get())),
+      session(PluginPath(options)) {
   Layer& layer = comp.AddLayer(layerName, std::move(sound));
   layer.startTick = TicksAt(options.layerStart, comp.timeScale);
   std::optional<ProjectFile> project;
@@ -61,7 +63,7 @@ void Stage::ApplySettings() {
   for (const std::string& setting : options.settings) {
     const size_t equals = setting.find('=');
     if (equals == std::string::npos) {
-      throw UsageFailure("--set takes NAME=VALUE, such as \"Range 2/Active=on\", not \"" + setting +
+      throw UsageFailure(R"(--set takes NAME=VALUE, such as "Range 2/Active=on", not ")" + setting +
                          "\".");
     }
     const size_t index = parameters.Find(setting.substr(0, equals));

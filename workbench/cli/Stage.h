@@ -17,7 +17,7 @@ class Stage {
   //
   // sound   null: a layer without sound
   // Throws JobFailure and UsageFailure.
-  Stage(const StageOptions& stageOptions, const std::string& layerName,
+  Stage(StageOptions stageOptions, const std::string& layerName,
         std::shared_ptr<const AudioClip> sound);
 
   HostSession& Session() { return session; }

@@ -1,8 +1,10 @@
 // Parses and rounds times.
 #include "workbench/cli/TimeSpan.h"
 
+#include <array>
 #include <charconv>
 #include <cmath>
+#include <cstdio>
 #include <optional>
 #include <string_view>
 
@@ -39,8 +41,10 @@ TimeSpan ParseTimeSpan(const std::string& text) {
 int32_t TicksAt(double seconds, uint32_t scale) {
   const double ticks = std::round(seconds * scale);
   if (!(std::fabs(ticks) <= 2147483647.0)) {
-    throw UsageFailure("A comp at this frame rate can't reach so far: " + std::to_string(seconds) +
-                       " s. Use a smaller time, or a frame rate with a smaller scale.");
+    std::array<char, 32> text{};
+    std::snprintf(text.data(), text.size(), "%g s", seconds);
+    throw UsageFailure(std::string("A comp at this frame rate can't reach so far: ") + text.data() +
+                       ". Use a smaller time, or a frame rate with a smaller scale.");
   }
   return static_cast<int32_t>(ticks);
 }

@@ -1,10 +1,23 @@
 // The workbench: reads its options, runs one command, returns its status.
+#include <algorithm>
 #include <exception>
 #include <iostream>
 #include <new>
+#include <string>
 
 #include "workbench/Failure.h"
 #include "workbench/cli/CommandLine.h"
+
+namespace {
+
+// Names and texts from outside may hold line ends and other control codes; a message is one line.
+void ShowFailure(std::string text) {
+  const auto isControl = [](unsigned char letter) { return letter < ' ' || letter == 0x7F; };
+  std::replace_if(text.begin(), text.end(), isControl, '?');
+  std::cerr << "workbench: " << text << '\n';
+}
+
+}  // namespace
 
 int main(int argc, char** argv) {
   constexpr int kJobFailed = 1;
@@ -12,13 +25,13 @@ int main(int argc, char** argv) {
   try {
     return RunCommandLine(argc, argv);
   } catch (const UsageFailure& failure) {
-    std::cerr << "workbench: " << failure.what() << '\n';
+    ShowFailure(failure.what());
     return kWrongCommandLine;
   } catch (const std::bad_alloc&) {
-    std::cerr << "workbench: There is not enough memory for this job. Try a shorter sound.\n";
+    ShowFailure("There is not enough memory for this job. Try a shorter sound.");
     return kJobFailed;
   } catch (const std::exception& failure) {
-    std::cerr << "workbench: " << failure.what() << '\n';
+    ShowFailure(failure.what());
     return kJobFailed;
   }
 }

@@ -48,7 +48,7 @@ A_Err GetNewEffectForEffect(AEGP_PluginID /*id*/, PF_ProgPtr effect_ref, AEGP_Ef
   const PF_Err error = scope->EnterCall(kCall, effect_ref);
   if (error != PF_Err_NONE) return error;
   if (scope->Instance() == nullptr) return scope->Broken(kCall, "there is no instance");
-  *effect = AsReference<AEGP_EffectRefH>(&scope->effects.Open({scope->Instance()}));
+  *effect = AsReference<AEGP_EffectRefH>(&scope->effects.Open({*scope->Instance()}));
   return PF_Err_NONE;
 }
 
@@ -105,12 +105,12 @@ A_Err GetNewEffectStreamByIndex(AEGP_PluginID /*id*/, AEGP_EffectRefH reference,
   if (error != PF_Err_NONE) return error;
   OpenEffect* effect = scope->effects.Find(reference);
   if (effect == nullptr) return scope->Broken(kCall, "the effect reference is not open");
-  if (index < 1 || static_cast<size_t>(index) >= effect->instance->ParameterCount() ||
-      !HasValue(effect->instance->Value(static_cast<size_t>(index)).param_type)) {
+  if (index < 1 || static_cast<size_t>(index) >= effect->instance.ParameterCount() ||
+      !HasValue(effect->instance.Value(static_cast<size_t>(index)).param_type)) {
     return scope->Broken(kCall, "parameter " + std::to_string(index) + " has no stream");
   }
   *stream =
-      AsReference<AEGP_StreamRefH>(&scope->streams.Open({effect, static_cast<size_t>(index)}));
+      AsReference<AEGP_StreamRefH>(&scope->streams.Open({*effect, static_cast<size_t>(index)}));
   return PF_Err_NONE;
 }
 
@@ -122,7 +122,7 @@ A_Err DisposeStream(AEGP_StreamRefH reference) {
   const PF_Err error = scope->EnterCall();
   const OpenStream* stream = scope->streams.Find(reference);
   if (stream == nullptr) return scope->Broken(kCall, "the stream is not open");
-  if (scope->batches.Any([stream](const OpenBatch& batch) { return batch.stream == stream; })) {
+  if (scope->batches.Any([stream](const OpenBatch& batch) { return &batch.stream == stream; })) {
     return scope->Broken(kCall, "a batch of keyframes is still open on the stream");
   }
   scope->streams.Close(stream);
@@ -136,7 +136,7 @@ A_Err DisposeEffect(AEGP_EffectRefH reference) {
   const PF_Err error = scope->EnterCall();
   const OpenEffect* effect = scope->effects.Find(reference);
   if (effect == nullptr) return scope->Broken(kCall, "the effect reference is not open");
-  if (scope->streams.Any([effect](const OpenStream& stream) { return stream.effect == effect; })) {
+  if (scope->streams.Any([effect](const OpenStream& stream) { return &stream.effect == effect; })) {
     return scope->Broken(kCall, "a stream of the effect is still open");
   }
   scope->effects.Close(effect);
@@ -151,17 +151,17 @@ A_Err StartAddKeyframes(AEGP_StreamRefH reference, AEGP_AddKeyframesInfoH* info)
   if (error != PF_Err_NONE) return error;
   OpenStream* stream = scope->streams.Find(reference);
   if (stream == nullptr) return scope->Broken(kCall, "the stream is not open");
-  const PF_ParamDef& def = stream->effect->instance->Value(stream->parameter);
+  const PF_ParamDef& def = stream->effect.instance.Value(stream->parameter);
   if ((def.flags & PF_ParamFlag_CANNOT_TIME_VARY) != 0) {
     return scope->Broken(kCall, std::string(def.name) + " can't vary over time");
   }
-  *info = AsReference<AEGP_AddKeyframesInfoH>(&scope->batches.Open({stream, {}}));
+  *info = AsReference<AEGP_AddKeyframesInfoH>(&scope->batches.Open({*stream, {}}));
   return PF_Err_NONE;
 }
 
 // "keyframe 12 of Output 2", counted from 1.
 std::string KeyframeName(const OpenBatch& batch, size_t number) {
-  const PF_ParamDef& def = batch.stream->effect->instance->Value(batch.stream->parameter);
+  const PF_ParamDef& def = batch.stream.effect.instance.Value(batch.stream.parameter);
   return "keyframe " + std::to_string(number) + " of " + def.name;
 }
 
@@ -179,7 +179,7 @@ A_Err AddKeyframes(AEGP_AddKeyframesInfoH info, AEGP_LTimeMode mode, const A_Tim
     return scope->Broken(kCall, KeyframeName(*batch, number) + ": the time's scale is 0");
   }
   StagedKeyframe staged;
-  const Layer& layer = batch->stream->effect->instance->EffectLayer();
+  const Layer& layer = batch->stream.effect.instance.EffectLayer();
   staged.keyframe.time = mode == AEGP_LTimeMode_CompTime ? CompToLayerTime(layer, *time) : *time;
   staged.order = scope->stagedCount++;
   if (number > 1 && !IsEarlier(batch->keyframes.back().keyframe.time, staged.keyframe.time)) {
@@ -203,7 +203,7 @@ A_Err SetAddKeyframe(AEGP_AddKeyframesInfoH info, A_long key_index,
   if (key_index < 0 || static_cast<size_t>(key_index) >= batch->keyframes.size()) {
     return scope->Broken(kCall, "there is no keyframe " + std::to_string(key_index));
   }
-  if (scope->streams.Find(value->streamH) != batch->stream) {
+  if (scope->streams.Find(value->streamH) != &batch->stream) {
     return scope->Broken(kCall, "the value is for another stream");
   }
   if (!std::isfinite(value->val.one_d)) {
@@ -218,7 +218,7 @@ A_Err SetAddKeyframe(AEGP_AddKeyframesInfoH info, A_long key_index,
 
 // Puts the batch's keyframes on its slider and into the list of what was written.
 void Commit(CommandScope& scope, const OpenBatch& batch) {
-  EffectInstance& instance = *batch.stream->effect->instance;
+  EffectInstance& instance = batch.stream.effect.instance;
   std::vector<Keyframe> keyframes;
   for (const StagedKeyframe& staged : batch.keyframes) {
     if (!staged.hasValue && !scope.FaultStruck()) {
@@ -226,9 +226,9 @@ void Commit(CommandScope& scope, const OpenBatch& batch) {
                    KeyframeName(batch, keyframes.size() + 1) + ": it was given no value");
     }
     keyframes.push_back(staged.keyframe);
-    instance.written.push_back({batch.stream->parameter, staged.keyframe, staged.order});
+    instance.written.push_back({batch.stream.parameter, staged.keyframe, staged.order});
   }
-  instance.streams[batch.stream->parameter].Set(std::move(keyframes));
+  instance.streams[batch.stream.parameter].Set(std::move(keyframes));
 }
 
 A_Err EndAddKeyframes(A_Boolean add, AEGP_AddKeyframesInfoH info) {

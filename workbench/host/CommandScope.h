@@ -28,10 +28,10 @@ struct AudioCheckout {
 
 // References that a command has opened through the project suites.
 struct OpenEffect {
-  EffectInstance* instance = nullptr;
+  EffectInstance& instance;
 };
 struct OpenStream {
-  OpenEffect* effect = nullptr;
+  OpenEffect& effect;
   size_t parameter = 0;
 };
 struct StagedKeyframe {
@@ -40,7 +40,7 @@ struct StagedKeyframe {
   int64_t order = 0;  // over all streams of the command
 };
 struct OpenBatch {
-  OpenStream* stream = nullptr;
+  OpenStream& stream;
   std::vector<StagedKeyframe> keyframes;
 };
 

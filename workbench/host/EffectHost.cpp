@@ -1,6 +1,8 @@
 // One call of the plug-in, from the records made for it to the handles taken over.
 #include "workbench/host/EffectHost.h"
 
+#include <array>
+#include <cstddef>
 #include <cstring>
 
 #include "workbench/host/HostCallbacks.h"
@@ -24,17 +26,21 @@ std::string MessageIn(const PF_OutData& out_data, PF_Cmd cmd, CommandScope& scop
 }
 
 // The values of the parameters belong to the host; an effect changes them through suites alone.
-std::vector<PF_ParamDef> CopyOfParameters(const EffectInstance* instance) {
-  std::vector<PF_ParamDef> copy;
-  if (instance == nullptr) return copy;
-  for (size_t i = 0; i < instance->ParameterCount(); ++i) copy.push_back(instance->Value(i));
-  return copy;
+using ParameterBytes = std::array<std::byte, sizeof(PF_ParamDef)>;
+
+std::vector<ParameterBytes> BytesOfParameters(const EffectInstance* instance) {
+  std::vector<ParameterBytes> bytes(instance != nullptr ? instance->ParameterCount() : 0);
+  for (size_t i = 0; i < bytes.size(); ++i) {
+    std::memcpy(bytes[i].data(), &instance->Value(i), sizeof(PF_ParamDef));
+  }
+  return bytes;
 }
 
-void CheckParametersAreUntouched(const std::vector<PF_ParamDef>& before,
+void CheckParametersAreUntouched(const std::vector<ParameterBytes>& before,
                                  const EffectInstance* instance, CommandScope& scope) {
+  const std::vector<ParameterBytes> after = BytesOfParameters(instance);
   for (size_t i = 0; i < before.size(); ++i) {
-    if (std::memcmp(&before[i], &instance->Value(i), sizeof(PF_ParamDef)) != 0) {
+    if (before[i] != after[i]) {
       scope.Broken(CommandName(scope.Command()),
                    "parameter " + std::to_string(i) + " was written to in the host's own array");
     }
@@ -80,7 +86,7 @@ CommandResult EffectHost::Send(PF_Cmd cmd, EffectInstance* instance, void* extra
   PF_OutData out_data{};
   out_data.global_data = in_data.global_data;
   out_data.sequence_data = in_data.sequence_data;
-  const std::vector<PF_ParamDef> before = CopyOfParameters(instance);
+  const std::vector<ParameterBytes> before = BytesOfParameters(instance);
   if (instance != nullptr) instance->written.clear();
 
   CommandResult result;

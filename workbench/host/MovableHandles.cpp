@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <cstring>
 #include <new>
+#include <utility>
 
 namespace {
 
@@ -11,9 +12,9 @@ constexpr uint64_t kLargestHandle = uint64_t{1} << 30;
 
 using Memory = std::unique_ptr<char[]>;
 
-// At least one byte, so that an empty handle has an address too.
+// At least one byte, so that an empty handle has an address too. Null where there is no room.
 Memory Allocate(uint64_t size) {
-  return Memory(new char[std::max<uint64_t>(size, 1)]);
+  return Memory(new (std::nothrow) char[std::max<uint64_t>(size, 1)]);
 }
 
 }  // namespace
@@ -22,6 +23,9 @@ struct MovableHandles::Block {
   // A handle points here: the address of the memory while it is locked, else null.
   char* visible = nullptr;
   Memory memory;
+  // Where the block stood before its last move, poisoned. Were it freed at once, the next move
+  // would come back to it, and a pointer kept from before would be right again.
+  Memory oldPlace;
   uint64_t size = 0;
   int lockCount = 0;
   bool live = true;
@@ -36,6 +40,7 @@ PF_Handle MovableHandles::New(uint64_t size) {
   if (size > kLargestHandle) return nullptr;
   auto block = std::make_unique<Block>();
   block->memory = Allocate(size);
+  if (block->memory == nullptr) return nullptr;
   block->size = size;
   std::memset(block->memory.get(), kFreshByte, std::max<uint64_t>(size, 1));
   const PF_Handle handle = &block->visible;
@@ -74,9 +79,10 @@ MovableHandles::Outcome MovableHandles::Unlock(PF_Handle handle) {
   if (--block->lockCount > 0) return {};
   block->visible = nullptr;
   Memory moved = Allocate(block->size);
+  if (moved == nullptr) return {};
   std::memcpy(moved.get(), block->memory.get(), block->size);
   block->Poison();
-  block->memory = std::move(moved);
+  block->oldPlace = std::exchange(block->memory, std::move(moved));
   return {};
 }
 
@@ -87,6 +93,7 @@ MovableHandles::Outcome MovableHandles::Dispose(PF_Handle handle) {
   const bool locked = block->lockCount > 0;
   block->Poison();
   block->memory.reset();
+  block->oldPlace.reset();
   block->visible = nullptr;
   block->live = false;
   return {nullptr, locked ? "the handle is still locked" : ""};

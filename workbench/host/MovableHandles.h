@@ -12,7 +12,8 @@
 #include "AE_Effect.h"
 
 // Every unlock that brings a handle's lock count to 0 moves its memory and poisons the old place,
-// so that a pointer kept past the lock shows itself. Safe to use from several threads.
+// which stays poisoned until the next move, so that a pointer kept past the lock shows itself. Safe
+// to use from several threads.
 class MovableHandles {
  public:
   // What memory holds when it is new, and when it is gone.

@@ -4,6 +4,7 @@
 #include <array>
 #include <charconv>
 #include <cmath>
+#include <limits>
 #include <optional>
 
 #include "workbench/Failure.h"
@@ -11,7 +12,6 @@
 namespace {
 
 constexpr double kFixedOne = 65536.0;
-constexpr double kLargestFixed = 32767.99999;
 
 [[noreturn]] void Refuse(const ParameterList& parameters, size_t index, std::string_view text) {
   throw UsageFailure(parameters.At(index).path + " takes " + AcceptedText(parameters, index) +
@@ -20,7 +20,7 @@ constexpr double kLargestFixed = 32767.99999;
 
 std::optional<double> AsNumber(std::string_view text) {
   double number = 0.0;
-  if (text.starts_with('+')) text.remove_prefix(1);
+  if (text.starts_with('+') && !text.starts_with("+-")) text.remove_prefix(1);
   const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
   if (error != std::errc{} || end != text.data() + text.size() || !std::isfinite(number)) {
     return std::nullopt;
@@ -28,17 +28,24 @@ std::optional<double> AsNumber(std::string_view text) {
   return number;
 }
 
+// The number, if it is whole and 32 bits hold it.
+std::optional<A_long> AsLong(double number) {
+  using Limits = std::numeric_limits<A_long>;
+  if (number != std::trunc(number) || number < Limits::min() || number > Limits::max()) {
+    return std::nullopt;
+  }
+  return static_cast<A_long>(number);
+}
+
 std::optional<A_long> AsWhole(std::string_view text) {
   const auto number = AsNumber(text);
-  if (!number || *number != std::trunc(*number) || std::fabs(*number) > 1e9) return std::nullopt;
-  return static_cast<A_long>(*number);
+  return number ? AsLong(*number) : std::nullopt;
 }
 
 // The nearest 16.16 value.
 std::optional<PF_Fixed> AsFixed(std::string_view text) {
   const auto number = AsNumber(text);
-  if (!number || std::fabs(*number) > kLargestFixed) return std::nullopt;
-  return static_cast<PF_Fixed>(std::lround(*number * kFixedOne));
+  return number ? AsLong(std::round(*number * kFixedOne)) : std::nullopt;
 }
 
 std::optional<A_long> AsCheckbox(std::string_view text) {
@@ -114,7 +121,7 @@ std::string FixedText(PF_Fixed value) {
   for (int decimals = 0;; ++decimals) {
     const auto written = std::to_chars(buffer.data(), buffer.data() + buffer.size(),
                                        value / kFixedOne, std::chars_format::fixed, decimals);
-    const std::string text(buffer.data(), written.ptr);
+    std::string text(buffer.data(), written.ptr);
     if (decimals == 5 || AsFixed(text) == value) return text;
   }
 }

@@ -2,6 +2,7 @@
 #include <dlfcn.h>
 
 #include <string>
+#include <system_error>
 
 #include "workbench/Failure.h"
 #include "workbench/host/PluginLibrary.h"
@@ -11,7 +12,8 @@ namespace {
 constexpr const char* kEntryPointName = "EntryPointFunc";
 
 std::shared_ptr<void> Load(const std::filesystem::path& path) {
-  if (!std::filesystem::exists(path)) {
+  std::error_code code;
+  if (!std::filesystem::exists(path, code)) {
     throw JobFailure(
         path.string() +
         ": there is no such plug-in library. Build it, or name another with --plugin.");

@@ -1,0 +1,153 @@
+// Catches a host that lets a plug-in break its rules, or that hands out other sound than it has.
+#include "workbench/host/EffectHost.h"
+
+#include <gtest/gtest.h>
+
+#include <cstring>
+#include <limits>
+#include <optional>
+
+#include "workbench/host/AudioCallbacks.h"
+
+namespace {
+
+constexpr size_t kOutput = 1;
+constexpr size_t kSound = 2;
+constexpr int16_t kSoundFrames = 10000;
+
+// Frame n holds n + 1 on the left and its opposite on the right.
+std::shared_ptr<const AudioClip> CountingSound() {
+  AudioClipBuilder builder;
+  for (int16_t n = 1; n <= kSoundFrames; ++n) {
+    const int16_t frame[] = {n, static_cast<int16_t>(-n)};
+    builder.Append(frame, 1);
+  }
+  return std::make_shared<const AudioClip>(builder.Finish());
+}
+
+std::string Joined(const std::vector<std::string>& rules) {
+  std::string text;
+  for (const std::string& rule : rules) text += rule + '\n';
+  return text;
+}
+
+class RudeEffect : public testing::Test {
+ protected:
+  RudeEffect() {
+    PF_ParamDef def{};
+    std::strcpy(def.name, "Output");
+    def.param_type = PF_Param_FIX_SLIDER;
+    host.Parameters().Add(def);
+    def.param_type = PF_Param_LAYER;
+    host.Parameters().Add(def);
+    instance.emplace(host.Parameters(), layer);
+    instance->chosenLayers[kSound] = &layer;
+  }
+
+  CommandResult Do(std::string deed, PF_Cmd cmd = PF_Cmd_EVENT, Fault fault = {}) {
+    return host.Send(cmd, &*instance, deed.data(), fault);
+  }
+
+  EffectHost host{RUDE_PLUGIN};
+  Comp comp;
+  Layer& layer = comp.AddLayer("sound", CountingSound());
+  std::optional<EffectInstance> instance;
+};
+
+struct RudeCase {
+  const char* deed;
+  const char* says;
+  PF_Cmd cmd = PF_Cmd_EVENT;
+};
+constexpr RudeCase kRudeCases[] = {
+    {"stay locked", "Event: a handle of 8 bytes is locked 1 time(s)"},
+    {"unlock twice", "host_unlock_handle: the handle was not locked"},
+    {"dispose locked", "host_dispose_handle: the handle is still locked"},
+    {"lock foreign", "host_lock_handle: the handle is not one of the host's"},
+    {"keep suite", "\"PF AE App Suite\" version 6 is acquired 1 time(s)"},
+    {"keep audio", "1 audio checkout(s) not checked in"},
+    {"keep effect", "1 effect reference(s) not disposed of"},
+    {"keep stream", "1 stream(s) not disposed of"},
+    {"keep batch", "1 batch(es) of keyframes not ended"},
+    {"backwards", "keyframe 2 of Output: time not behind keyframe 1"},
+    {"same time", "keyframe 2 of Output: time not behind keyframe 1"},
+    {"NaN", "keyframe 1 of Output: the value is no finite number"},
+    {"NaN", "keyframe 1 of Output: it was given no value"},
+    {"write params", "parameter 1 was written to"},
+    {"other effect", "checkin_layer_audio: effect_ref is not the one"},
+    {"empty slot", "a slot that has no function"},
+    {"throw", "something was thrown out of the entry point"},
+    {"endless", "return_msg has no end"},
+    {"foreign global", "global_data is not a handle", PF_Cmd_GLOBAL_SETUP},
+    {"foreign record", "sequence_data is not a handle", PF_Cmd_SEQUENCE_SETUP},
+    {"foreign record", "the copy is not a handle", PF_Cmd_GET_FLATTENED_SEQUENCE_DATA},
+    {"nothing", "the copy is the running record", PF_Cmd_GET_FLATTENED_SEQUENCE_DATA},
+    {"nothing", "num_params is 0, but 3 parameters stand", PF_Cmd_PARAMS_SETUP},
+};
+
+TEST_F(RudeEffect, IsToldWhichRuleItBrokeAndOnlyThen) {
+  for (const RudeCase& c : kRudeCases) {
+    const std::string broken = Joined(Do(c.deed, c.cmd).broken);
+    EXPECT_NE(broken.find(c.says), std::string::npos) << c.deed << ": " << broken;
+    for (const char* polite : {"nothing", "two calls", "keyframes"}) {
+      EXPECT_EQ(Joined(Do(polite).broken), "") << polite << " behind " << c.deed;
+    }
+    EXPECT_EQ(instance->written.size(), 2U) << "behind " << c.deed;
+  }
+}
+
+TEST_F(RudeEffect, GetsTheErrorOfTheCallThatIsToFailAndOfNoOther) {
+  constexpr PF_Err kPlanned = 777;
+  for (int64_t n = 0; n < 4; ++n) {
+    const CommandResult result = Do("two calls", PF_Cmd_EVENT, {n, kPlanned});
+    const bool strikes = n == 1 || n == 2;
+    EXPECT_EQ(result.error, strikes ? kPlanned : PF_Err_NONE) << n;
+    EXPECT_EQ(result.faultStruck, strikes) << n;
+    EXPECT_EQ(result.hostCalls, n == 1 ? 1 : 2) << n;
+    EXPECT_EQ(Joined(result.broken), "") << n << ": a failed release has released";
+  }
+}
+
+struct WindowCase {
+  A_long start, duration;
+  A_u_long scale;
+  int64_t first, count;  // frames; count -1: refused
+  PF_ParamIndex parameter = kSound;
+  A_long channels = 2;
+};
+constexpr WindowCase kWindowCases[] = {
+    {0, 150, 1000, 0, 6615},
+    {-1, 1, 3000, -15, 14},  // -14.7 and 14.7 frames
+    {1, 1, 3000, 14, 14},
+    {-7, 3, 44101, -7, 2},  // just short of -7 and of 3 frames
+    {-1, 3, 100, -441, 1323},
+    {22, 1, 100, 9702, 441},  // over the sound's end
+    {std::numeric_limits<A_long>::min(), 1, 1, -94704028876800, 44100},
+    {std::numeric_limits<A_long>::max(), 1, 4294967295U, 22049, 0},
+    {0, std::numeric_limits<A_long>::max(), 1, 0, -1},
+    {0, -1, 30, 0, -1},
+    {0, 1, 0, 0, -1},
+    {0, 1, 30, 0, -1, kOutput},
+    {0, 1, 30, 0, -1, 99},
+    {0, 1, 30, 0, -1, kSound, 1},
+};
+
+TEST_F(RudeEffect, HearsTheFramesThatFloorArithmeticNamesAndSilenceOutside) {
+  CommandScope scope(host, &*instance, PF_Cmd_EVENT, {});
+  for (const WindowCase& c : kWindowCases) {
+    PF_LayerAudio audio = nullptr;
+    const PF_Err error = CheckoutLayerAudio(scope.EffectRef(), c.parameter, c.start, c.duration,
+                                            c.scale, 44100U << 16, 2, c.channels, 1, &audio);
+    ASSERT_EQ(error == PF_Err_NONE, c.count >= 0) << c.start << ' ' << c.duration << '/' << c.scale;
+    if (error != PF_Err_NONE) continue;
+    const std::vector<int16_t>& samples = scope.audio.Find(audio)->samples;
+    ASSERT_EQ(samples.size(), static_cast<size_t>(2 * c.count)) << c.start << '/' << c.scale;
+    for (int64_t i = 0; i < 2 * c.count; ++i) {
+      const int64_t frame = c.first + i / 2;
+      const int64_t left = frame >= 0 && frame < kSoundFrames ? frame + 1 : 0;
+      ASSERT_EQ(samples[static_cast<size_t>(i)], i % 2 == 0 ? left : -left) << c.start << ' ' << i;
+    }
+  }
+}
+
+}  // namespace
