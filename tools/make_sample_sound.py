@@ -169,8 +169,8 @@ def write_wav(path, left, right):
 
 def pack(wav, flac):
     """Without the encoder's name and version, which would differ from machine to machine."""
-    command = ["ffmpeg", "-loglevel", "error", "-y", "-bitexact", "-i", wav]
-    command += ["-flags:a", "+bitexact", "-compression_level", "12", flac]
+    command = ["ffmpeg", "-loglevel", "error", "-y", "-i", wav]
+    command += ["-bitexact", "-compression_level", "12", flac]
     subprocess.run(command, check=True)
 
 
