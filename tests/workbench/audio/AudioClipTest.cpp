@@ -10,8 +10,8 @@
 
 namespace {
 
-constexpr int64_t kFirstTick = std::numeric_limits<int64_t>::min();
-constexpr int64_t kLastTick = std::numeric_limits<int64_t>::max();
+constexpr int64_t kLowest = std::numeric_limits<int64_t>::min();
+constexpr int64_t kHighest = std::numeric_limits<int64_t>::max();
 constexpr int16_t kGuard = 0x5A5A;
 
 // Several blocks and a bit; no sample is 0.
@@ -62,11 +62,11 @@ TEST(AudioClip, EveryWindowHoldsTheSoundsFramesAndSilenceAroundThem) {
   for (const int64_t first :
        {int64_t{0}, int64_t{-1}, int64_t{-6614}, int64_t{-6615}, int64_t{-6616}, int64_t{65535},
         int64_t{65536}, int64_t{131071}, int64_t{131072}, end - 6615, end - 1, end, end + 1,
-        kFirstTick, kFirstTick + 6615})
+        kLowest, kLowest + 6615})
     for (const int32_t count : {-1, 0, 1, 2, 6615, 140000})
       EXPECT_TRUE(Window(clip, first, count) == PlainWindow(samples, first, count))
           << count << " frames from " << first;
-  EXPECT_TRUE(Window(clip, kLastTick, 6615) == PlainWindow({}, 0, 6615));
+  EXPECT_TRUE(Window(clip, kHighest, 6615) == PlainWindow({}, 0, 6615));
   EXPECT_TRUE(Window(AudioClip(), -3, 6) == PlainWindow({}, 0, 6));
 }
 
