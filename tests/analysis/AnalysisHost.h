@@ -1,6 +1,8 @@
 // A host with one sound and one set of parameters; it keeps what the audio calls asked of it.
 #pragma once
 
+#include <gtest/gtest.h>
+
 #include <array>
 #include <cmath>
 #include <cstddef>
@@ -35,7 +37,6 @@ struct TestParameters {
   operator const PF_ParamDef* const*() const { return pointers.data(); }
 };
 
-// How the audio calls answer.
 struct AudioAnswers {
   PF_Err checkoutError = PF_Err_NONE;
   bool hasSound = true;
@@ -51,7 +52,6 @@ struct AnalysisHost {
   AudioAnswers answers;
   int fetches = 0;
   int checkins = 0;
-  bool formatIsRight = false;  // of the last check-out: layer 2, 44100 Hz, signed 16-bit stereo
   A_long start = 0;
   A_long duration = 0;
 
@@ -61,9 +61,9 @@ struct AnalysisHost {
     in_data.inter.checkout_layer_audio =
         [](PF_ProgPtr ref, PF_ParamIndex index, A_long from, A_long length, A_u_long,
            PF_UFixed rate, A_long bytes, A_long channels, A_long isSigned, PF_LayerAudio* audio) {
+          EXPECT_TRUE(index == 2 && rate == 44100U << 16U) << "the audio layer at 44100 Hz";
+          EXPECT_TRUE(bytes == 2 && channels == 2 && isSigned == 1);
           AnalysisHost& host = Of(ref);
-          host.formatIsRight =
-              index == 2 && rate == 44100U << 16U && bytes == 2 && channels == 2 && isSigned == 1;
           host.start = from;
           host.duration = length;
           *audio = host.answers.hasSound ? reinterpret_cast<PF_LayerAudio>(ref) : nullptr;

@@ -5,14 +5,11 @@
 #include <rapidcheck.h>
 
 #include <algorithm>
-#include <cstdint>
 #include <limits>
 #include <utility>
 #include <vector>
 
 #include "StoredMap.h"
-#include "gradient/GradientRecord.h"
-#include "gradient/GradientView.h"
 #include "gradient/RampIndex.h"
 
 namespace {
@@ -53,47 +50,28 @@ bool RebuildsThePlainRampAndNoMore(StoredMap map) {
 
 TEST(RebuildRamp, EqualsASlowPlainRampWhateverTheBytes) {
   EXPECT_TRUE(rc::check([] { return RebuildsThePlainRampAndNoMore(StoredMap(*AnyStops())); }));
-  constexpr uint8_t kFillers[] = {0x00, 0x7F, 0xC9, 0xFE, 0xFF};
-  for (const uint8_t filler : kFillers) {
-    EXPECT_TRUE(RebuildsThePlainRampAndNoMore(StoredMap(filler))) << int{filler};
+  for (const int filler : {0x00, 0xC9, 0xFF}) {
+    EXPECT_TRUE(RebuildsThePlainRampAndNoMore(StoredMap(static_cast<uint8_t>(filler)))) << filler;
   }
 }
 
-struct RampCase {
-  const char* what;
-  std::vector<Stop> stops;
-  std::vector<std::pair<int, float>> expectedRed;
-};
-
-TEST(RebuildRamp, GivesTheEntriesWorkedOutByHand) {
-  const RampCase kCases[] = {
-      {"flat ends",
-       {{25, 0, 0, 0}, {154, 1, 0, 0}},
-       {{0, 0}, {26, 0}, {90, 0.5F}, {154, 1}, {200, 1}}},
-      {"hard edge", {{99, 0, 0, 0}, {99, 1, 0, 0}}, {{99, 0}, {100, 1}, {200, 1}}},
-      {"neighbours", {{10, 0, 0, 0}, {11, 1, 0, 0}, {19, 2, 0, 0}}, {{10, 0}, {11, 1}, {15, 1.5F}}},
-      // Single-precision sums of 1/199, whose rounding no product of step and distance has.
-      {"sums",
-       {{0, 0, 0, 0}, {200, 1, 0, 0}},
-       {{1, 0}, {100, 0x1.FD6D36p-2F}, {200, 0x1.00001Cp0F}}},
-  };
-  for (const RampCase& c : kCases) {
-    StoredMap map(c.stops);
-    GradientView view(map.Record());
-    RebuildRamp(view);
-    for (const auto& [entry, red] : c.expectedRed) {
-      EXPECT_EQ(view.colorMapRed[entry], red) << c.what << ", entry " << entry;
-    }
-  }
+TEST(RebuildRamp, AddsUpItsStepsInSinglePrecision) {
+  StoredMap map(std::vector<Stop>{{0, 0, 0, 0}, {200, 1, 0, 0}});
+  GradientView view(map.Record());
+  RebuildRamp(view);
+  // Sums of 1/199, whose rounding no product of step and distance has.
+  EXPECT_EQ(view.colorMapRed[1], 0.0F);
+  EXPECT_EQ(view.colorMapRed[100], 0x1.FD6D36p-2F);
+  EXPECT_EQ(view.colorMapRed[200], 0x1.00001Cp0F);
 }
 
 TEST(RampIndex, IsTruncatedInSinglePrecisionAndStaysWithinTheRamp) {
   constexpr float kInfinity = std::numeric_limits<float>::infinity();
+  constexpr float kNaN = std::numeric_limits<float>::quiet_NaN();
+  // In double precision 1/80 gives 197, and 33/80 gives 118.
   constexpr std::pair<float, int32_t> kHeights[] = {
-      {0.0F, 200},          {1.0F, 0},      {-0.5F, 200},
-      {1.0F / 80.0F, 198},   // 197 in double precision
-      {33.0F / 80.0F, 117},  // 118 in double precision
-      {-kInfinity, 200},    {kInfinity, 0}, {std::numeric_limits<float>::quiet_NaN(), 0},
+      {0.0F, 200},  {1.0F / 80.0F, 198}, {33.0F / 80.0F, 117}, {1.0F, 0},
+      {-0.5F, 200}, {-kInfinity, 200},   {kInfinity, 0},       {kNaN, 0},
   };
   for (const auto& [height, index] : kHeights) {
     EXPECT_EQ(RampIndexAlongHeight(height), index) << height;

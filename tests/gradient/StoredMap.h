@@ -4,8 +4,6 @@
 #include <rapidcheck.h>
 
 #include <array>
-#include <cstddef>
-#include <cstdint>
 #include <cstring>
 #include <tuple>
 #include <vector>

@@ -90,12 +90,13 @@ TEST_F(RudeEffect, IsToldWhichRuleItBrokeAndOnlyThen) {
 
 TEST_F(RudeEffect, GetsTheErrorOfTheCallThatIsToFailAndOfNoOther) {
   constexpr PF_Err kPlanned = 777;
-  for (int64_t n = 0; n < 3; ++n) {
-    const CommandResult result = Do("keep suite", PF_Cmd_EVENT, {n, kPlanned});
-    EXPECT_EQ(result.error, n == 1 ? kPlanned : PF_Err_NONE) << n;
-    EXPECT_EQ(result.faultStruck, n == 1) << n;
-    EXPECT_EQ(result.broken.empty(), n == 1) << n << ": a call that failed gives nothing to keep";
-    EXPECT_EQ(result.hostCalls, 1) << n;
+  for (int64_t n = 0; n < 4; ++n) {
+    const CommandResult result = Do("keep both", PF_Cmd_EVENT, {n, kPlanned});
+    const bool strikes = n == 1 || n == 2;
+    EXPECT_EQ(result.faultStruck, strikes) << n;
+    EXPECT_EQ(result.hostCalls, 2) << n;
+    EXPECT_EQ(result.error, n == 2 ? kPlanned : PF_Err_NONE) << "of the second call, at " << n;
+    EXPECT_EQ(result.broken.size(), strikes ? 1U : 2U) << "a call that failed gives nothing: " << n;
   }
 }
 

@@ -57,7 +57,7 @@ TEST(MovableHandles, MayBeEmptyButNotLargerThanMemory) {
   EXPECT_NE(handles.Lock(empty).memory, nullptr);
   EXPECT_EQ(handles.Unlock(empty).broken, "");
   EXPECT_TRUE(handles.Bytes(empty).empty());
-  for (const uint64_t size : {uint64_t{1} << 40, ~uint64_t{0}}) {
+  for (const uint64_t size : {(uint64_t{1} << 30) + 1, ~uint64_t{0}}) {
     EXPECT_EQ(handles.New(size), nullptr) << size;
   }
 }

@@ -93,6 +93,7 @@ constexpr Deed kDeeds[] = {
     {"lock foreign", [](Call& c) { c.in->utils->host_lock_handle(ForeignHandle()); }},
     {"keep suite", KeepSuite},
     {"keep audio", KeepAudio},
+    {"keep both", [](Call& c) { KeepSuite(c), KeepAudio(c); }},
     {"keep stream", [](Call& c) { WriteKeyframes(c, {}, 0.0, 1); }},
     {"keep batch", [](Call& c) { WriteKeyframes(c, {}, 0.0, 0); }},
     {"backwards",
