@@ -28,6 +28,11 @@ void KeepAudio(Call& call) {
                                                    2, 2, 1, &audio);
 }
 
+void KeepSuiteAndAudio(Call& call) {
+  KeepSuite(call);
+  KeepAudio(call);
+}
+
 PF_Handle NewLocked(const Call& call) {
   const PF_Handle handle = call.in->utils->host_new_handle(8);
   call.in->utils->host_lock_handle(handle);
@@ -93,7 +98,7 @@ constexpr Deed kDeeds[] = {
     {"lock foreign", [](Call& c) { c.in->utils->host_lock_handle(ForeignHandle()); }},
     {"keep suite", KeepSuite},
     {"keep audio", KeepAudio},
-    {"keep both", [](Call& c) { KeepSuite(c), KeepAudio(c); }},
+    {"keep both", KeepSuiteAndAudio},
     {"keep stream", [](Call& c) { WriteKeyframes(c, {}, 0.0, 1); }},
     {"keep batch", [](Call& c) { WriteKeyframes(c, {}, 0.0, 0); }},
     {"backwards",
