@@ -149,6 +149,8 @@ A_Err StartAddKeyframes(AEGP_StreamRefH reference, AEGP_AddKeyframesInfoH* info)
   if (scope == nullptr) return PF_Err_INVALID_CALLBACK;
   const PF_Err error = scope->EnterCall();
   if (error != PF_Err_NONE) return error;
+  const PF_Err refusal = scope->RefuseInRender(kCall);
+  if (refusal != PF_Err_NONE) return refusal;
   OpenStream* stream = scope->streams.Find(reference);
   if (stream == nullptr) return scope->Broken(kCall, "the stream is not open");
   const PF_ParamDef& def = stream->effect.instance.Value(stream->parameter);

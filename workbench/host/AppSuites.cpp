@@ -14,6 +14,8 @@ PF_Err UpdateParamUi(PF_ProgPtr effect_ref, PF_ParamIndex index, const PF_ParamD
   if (scope == nullptr) return PF_Err_INVALID_CALLBACK;
   const PF_Err error = scope->EnterCall(kCall, effect_ref);
   if (error != PF_Err_NONE) return error;
+  const PF_Err refusal = scope->RefuseInRender(kCall);
+  if (refusal != PF_Err_NONE) return refusal;
   EffectInstance* instance = scope->Instance();
   if (instance == nullptr) return scope->Broken(kCall, "there is no instance in this command");
   if (index < 1 || static_cast<size_t>(index) >= instance->ParameterCount()) {

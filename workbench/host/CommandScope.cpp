@@ -51,6 +51,10 @@ PF_Err CommandScope::Broken(const std::string& call, const std::string& rule) {
   return PF_Err_BAD_CALLBACK_PARAM;
 }
 
+PF_Err CommandScope::RefuseInRender(const std::string& call) {
+  return cmd == PF_Cmd_RENDER ? Broken(call, "a render may not change the project") : PF_Err_NONE;
+}
+
 void CommandScope::CheckNoneOpen(size_t count, const char* what) {
   if (count > 0) Broken(CommandName(cmd), std::to_string(count) + " " + what + " at the end");
 }

@@ -14,6 +14,7 @@
 
 class EffectHost;
 class EffectInstance;
+class OutputWorld;
 
 // Makes the n-th host call of a command fail.
 struct Fault {
@@ -105,6 +106,10 @@ class CommandScope {
   PF_Err Broken(const std::string& call, const std::string& rule);
   const std::vector<std::string>& BrokenRules() const { return brokenRules; }
 
+  // Reports a call that a render may not make, since renders run on several threads at once and
+  // leave the project as it is. Returns 0 in any other command.
+  PF_Err RefuseInRender(const std::string& call);
+
   // Reports all that is still locked, acquired or open. To be called when the command has returned.
   void CheckAllIsGivenBack();
 
@@ -115,6 +120,7 @@ class CommandScope {
   OpenObjects<OpenStream> streams;
   OpenObjects<OpenBatch> batches;
   int64_t stagedCount = 0;
+  OutputWorld* output = nullptr;  // what a render draws into
 
  private:
   void CheckNoneOpen(size_t count, const char* what);

@@ -33,3 +33,13 @@ A_Time CompToLayerTime(const Layer& layer, const A_Time& time) {
 A_Time LayerToCompTime(const Layer& layer, const A_Time& time) {
   return Shifted(layer, time, layer.startTick);
 }
+
+std::optional<int32_t> LayerTickOfFrame(const Layer& layer, int64_t frame) {
+  using Limits = std::numeric_limits<int32_t>;
+  const int64_t step = layer.comp->timeStep;
+  // No frame so far away stands at a tick of 32 bits; the product below fits 64.
+  if (frame > 2 * int64_t{Limits::max()} || frame < 2 * int64_t{Limits::min()}) return std::nullopt;
+  const int64_t tick = frame * step - layer.startTick;
+  if (tick < Limits::min() || tick > Limits::max()) return std::nullopt;
+  return static_cast<int32_t>(tick);
+}

@@ -3,6 +3,7 @@
 
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -35,3 +36,7 @@ struct Comp {
 // doesn't fall on a tick is rounded down.
 A_Time CompToLayerTime(const Layer& layer, const A_Time& time);
 A_Time LayerToCompTime(const Layer& layer, const A_Time& time);
+
+// The layer's own time, on the comp's scale, at which frame `frame` of the comp stands. Nothing
+// where 32 bits don't hold it.
+std::optional<int32_t> LayerTickOfFrame(const Layer& layer, int64_t frame);

@@ -1,11 +1,10 @@
 // One call of the plug-in, from the records made for it to the handles taken over.
 #include "workbench/host/EffectHost.h"
 
-#include <array>
-#include <cstddef>
 #include <cstring>
 
 #include "workbench/host/HostCallbacks.h"
+#include "workbench/host/PassedParameters.h"
 #include "workbench/host/SuiteRegistry.h"
 
 namespace {
@@ -26,24 +25,17 @@ std::string MessageIn(const PF_OutData& out_data, PF_Cmd cmd, CommandScope& scop
 }
 
 // The values of the parameters belong to the host; an effect changes them through suites alone.
-using ParameterBytes = std::array<std::byte, sizeof(PF_ParamDef)>;
-
-std::vector<ParameterBytes> BytesOfParameters(const EffectInstance* instance) {
-  std::vector<ParameterBytes> bytes(instance != nullptr ? instance->ParameterCount() : 0);
-  for (size_t i = 0; i < bytes.size(); ++i) {
-    std::memcpy(bytes[i].data(), &instance->Value(i), sizeof(PF_ParamDef));
+void CheckParametersAreUntouched(const PassedParameters& parameters, CommandScope& scope) {
+  for (const size_t index : parameters.Changed()) {
+    scope.Broken(CommandName(scope.Command()),
+                 "parameter " + std::to_string(index) + " was written to in the host's own array");
   }
-  return bytes;
 }
 
-void CheckParametersAreUntouched(const std::vector<ParameterBytes>& before,
-                                 const EffectInstance* instance, CommandScope& scope) {
-  const std::vector<ParameterBytes> after = BytesOfParameters(instance);
-  for (size_t i = 0; i < before.size(); ++i) {
-    if (before[i] != after[i]) {
-      scope.Broken(CommandName(scope.Command()),
-                   "parameter " + std::to_string(i) + " was written to in the host's own array");
-    }
+void CheckWorld(CommandScope& scope) {
+  if (scope.output == nullptr) return;
+  for (const std::string& damage : scope.output->TakeDamage()) {
+    scope.Broken(CommandName(scope.Command()), damage);
   }
 }
 
@@ -52,7 +44,7 @@ void CheckParametersAreUntouched(const std::vector<ParameterBytes>& before,
 EffectHost::EffectHost(const std::filesystem::path& library, HostProfile hostProfile)
     : profile(std::move(hostProfile)), plugin(library) {}
 
-PF_InData EffectHost::MakeInData(PF_Cmd cmd, EffectInstance* instance, CommandScope& scope) {
+PF_InData EffectHost::MakeInData(CommandScope& scope, const RenderRequest* request) {
   PF_InData in_data{};
   in_data.inter = InteractCallbacks();
   in_data.utils = UtilityCallbacks();
@@ -61,11 +53,12 @@ PF_InData EffectHost::MakeInData(PF_Cmd cmd, EffectInstance* instance, CommandSc
   in_data.version = profile.version;
   in_data.appl_id = profile.applId;
   in_data.num_params = static_cast<A_long>(parameters.Count());
-  in_data.global_data = cmd == PF_Cmd_GLOBAL_SETUP ? nullptr : globalData;
+  in_data.global_data = scope.Command() == PF_Cmd_GLOBAL_SETUP ? nullptr : globalData;
   in_data.pica_basicP = profile.hasBasicSuite ? BasicSuite() : nullptr;
-  in_data.downsample_x = {1, 1};
-  in_data.downsample_y = {1, 1};
+  in_data.downsample_x = {1, request != nullptr ? request->downsample : 1};
+  in_data.downsample_y = in_data.downsample_x;
   in_data.pixel_aspect_ratio = {1, 1};
+  EffectInstance* instance = scope.Instance();
   if (instance == nullptr) return in_data;
 
   const Comp& comp = *instance->EffectLayer().comp;
@@ -77,31 +70,47 @@ PF_InData EffectHost::MakeInData(PF_Cmd cmd, EffectInstance* instance, CommandSc
   in_data.local_time_step = comp.timeStep;
   in_data.total_time = comp.workAreaDuration;
   in_data.current_time = CompToLayerTime(instance->EffectLayer(), {0, comp.timeScale}).value;
+  if (request == nullptr) return in_data;
+
+  in_data.current_time = request->layerTick;
+  in_data.extent_hint = {0, 0, request->world.Width(), request->world.Height()};
   return in_data;
 }
 
 CommandResult EffectHost::Send(PF_Cmd cmd, EffectInstance* instance, void* extra, Fault fault) {
   CommandScope scope(*this, instance, cmd, fault);
-  PF_InData in_data = MakeInData(cmd, instance, scope);
+  if (instance != nullptr) instance->written.clear();
+  return SendFrom(scope, extra, nullptr);
+}
+
+CommandResult EffectHost::Render(EffectInstance& instance, const RenderRequest& request,
+                                 Fault fault) {
+  CommandScope scope(*this, &instance, PF_Cmd_RENDER, fault);
+  scope.output = &request.world;
+  return SendFrom(scope, nullptr, &request);
+}
+
+CommandResult EffectHost::SendFrom(CommandScope& scope, void* extra, const RenderRequest* request) {
+  const PF_Cmd cmd = scope.Command();
+  PF_InData in_data = MakeInData(scope, request);
   PF_OutData out_data{};
   out_data.global_data = in_data.global_data;
   out_data.sequence_data = in_data.sequence_data;
-  const std::vector<ParameterBytes> before = BytesOfParameters(instance);
-  if (instance != nullptr) instance->written.clear();
+  PassedParameters values(scope.Instance(), in_data.downsample_x.den);
+  PF_LayerDef* const output = scope.output != nullptr ? scope.output->Record() : nullptr;
 
   CommandResult result;
   try {
-    result.error =
-        plugin.EntryPoint()(cmd, &in_data, &out_data,
-                            instance != nullptr ? instance->Params() : nullptr, nullptr, extra);
+    result.error = plugin.EntryPoint()(cmd, &in_data, &out_data, values.Array(), output, extra);
   } catch (...) {
     scope.Broken(CommandName(cmd), "something was thrown out of the entry point");
     result.error = PF_Err_INTERNAL_STRUCT_DAMAGED;
   }
   result.outFlags = out_data.out_flags;
   result.message = MessageIn(out_data, cmd, scope);
-  CheckParametersAreUntouched(before, instance, scope);
-  TakeOver(cmd, instance, in_data, out_data, scope, result);
+  CheckParametersAreUntouched(values, scope);
+  CheckWorld(scope);
+  TakeOver(cmd, scope.Instance(), in_data, out_data, scope, result);
   scope.CheckAllIsGivenBack();
   result.broken = scope.BrokenRules();
   result.hostCalls = scope.CallCount();

@@ -13,6 +13,7 @@
 #include "workbench/host/MovableHandles.h"
 #include "workbench/host/ParameterList.h"
 #include "workbench/host/PluginLibrary.h"
+#include "workbench/host/RenderRequest.h"
 
 constexpr A_long kAfterEffectsId = 0x46585443;  // 'FXTC'
 
@@ -53,6 +54,10 @@ class EffectHost {
   CommandResult Send(PF_Cmd cmd, EffectInstance* instance = nullptr, void* extra = nullptr,
                      Fault fault = {});
 
+  // Calls the plug-in with PF_Cmd_RENDER. May run on several threads at once, each with a world of
+  // its own, while no other command runs.
+  CommandResult Render(EffectInstance& instance, const RenderRequest& request, Fault fault = {});
+
   MovableHandles& Handles() { return handles; }
   ParameterList& Parameters() { return parameters; }
   const HostProfile& Profile() const { return profile; }
@@ -67,11 +72,12 @@ class EffectHost {
   // Which windows' events the plug-in has asked for, as PF_CustomEFlag_* bits.
   A_long customEvents = 0;
 
-  // Gets each text that the plug-in shows in the Info panel.
+  // Gets each text that the plug-in shows in the Info panel, on the thread of the command.
   std::function<void(const char* text)> onInfoText;
 
  private:
-  PF_InData MakeInData(PF_Cmd cmd, EffectInstance* instance, CommandScope& scope);
+  CommandResult SendFrom(CommandScope& scope, void* extra, const RenderRequest* request);
+  PF_InData MakeInData(CommandScope& scope, const RenderRequest* request);
   void TakeOver(PF_Cmd cmd, EffectInstance* instance, const PF_InData& in_data,
                 const PF_OutData& out_data, CommandScope& scope, CommandResult& result);
   void TakeOverFlatCopy(const PF_InData& in_data, const PF_OutData& out_data, CommandScope& scope,

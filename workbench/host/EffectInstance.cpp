@@ -18,5 +18,4 @@ EffectInstance::EffectInstance(const ParameterList& parameterList, Layer& effect
     value.u.td.x_value = PercentToPixels(value.u.td.x_dephault, layer->comp->width);
     value.u.td.y_value = PercentToPixels(value.u.td.y_dephault, layer->comp->height);
   }
-  for (PF_ParamDef& value : values) pointers.push_back(&value);
 }

@@ -30,9 +30,6 @@ class EffectInstance {
   const PF_ParamDef& Value(size_t index) const { return values[index]; }
   size_t ParameterCount() const { return values.size(); }
 
-  // The values as the plug-in gets them: an array of pointers.
-  PF_ParamDef** Params() { return pointers.data(); }
-
   PF_Handle sequenceData = nullptr;
   std::map<size_t, const Layer*> chosenLayers;  // by parameter; none chosen: no entry
   std::map<size_t, PF_ParamUIFlags> uiFlags;    // as the plug-in last set them
@@ -42,5 +39,4 @@ class EffectInstance {
  private:
   Layer* layer;
   std::vector<PF_ParamDef> values;
-  std::vector<PF_ParamDef*> pointers;
 };

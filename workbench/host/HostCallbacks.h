@@ -6,7 +6,7 @@
 // Parameters, custom UI, audio.
 PF_InteractCallbacks InteractCallbacks();
 
-// Handles, mathematics, platform data. The table lives as long as the program.
+// Handles, filling of worlds, mathematics, platform data. The table lives as long as the program.
 PF_UtilCallbacks* UtilityCallbacks();
 
 // What stands in a slot that this host doesn't offer: reports the call and fails.

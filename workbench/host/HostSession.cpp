@@ -50,14 +50,20 @@ HostSession::~HostSession() {
 
 CommandResult HostSession::Demand(PF_Cmd cmd, EffectInstance* instance, void* extra) {
   CommandResult result = host.Send(cmd, instance, extra);
+  Judge(cmd, result);
+  return result;
+}
+
+void HostSession::Judge(PF_Cmd cmd, const CommandResult& result) {
   ThrowIfBroken(result.broken);
   if (result.error != PF_Err_NONE) {
     std::string text = CommandName(cmd) + ": the plug-in returned " + std::to_string(result.error);
     if (result.ShowsMessage()) text += ": " + result.message;
     throw JobFailure(text);
   }
-  if (result.ShowsMessage()) messages.push_back(result.message);
-  return result;
+  if (!result.ShowsMessage()) return;
+  const std::scoped_lock guard(messagesMutex);
+  messages.push_back(result.message);
 }
 
 EffectInstance& HostSession::AddInstance(Layer& layer,
@@ -111,6 +117,16 @@ void HostSession::PressApply(EffectInstance& instance) {
   const size_t told = messages.size();
   Demand(PF_Cmd_EVENT, &instance, &release);
   if (messages.size() > told) throw JobFailure(messages.back());
+}
+
+void HostSession::RenderFrame(EffectInstance& instance, int64_t frame, OutputWorld& world,
+                              uint32_t downsample) {
+  const auto tick = LayerTickOfFrame(instance.EffectLayer(), frame);
+  if (!tick) {
+    throw JobFailure("Frame " + std::to_string(frame) +
+                     " lies beyond what a comp at this frame rate can reach.");
+  }
+  Judge(PF_Cmd_RENDER, host.Render(instance, {world, *tick, downsample}));
 }
 
 std::vector<uint8_t> HostSession::FlattenedRecord(EffectInstance& instance) {

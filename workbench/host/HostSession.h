@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <filesystem>
 #include <memory>
+#include <mutex>
 #include <optional>
 #include <string>
 #include <vector>
@@ -37,6 +38,15 @@ class HostSession {
   // Presses the Apply button and releases it. The instance's `written` holds what came of it.
   void PressApply(EffectInstance& instance);
 
+  // Renders frame `frame` of the comp.
+  //
+  // world        holds the layer at 1 / downsample of its size
+  // downsample   1 and more
+  // May run on several threads at once, each with a world of its own, while nothing else does.
+  // Throws JobFailure also where the frame lies beyond what 32-bit ticks can tell.
+  void RenderFrame(EffectInstance& instance, int64_t frame, OutputWorld& world,
+                   uint32_t downsample = 1);
+
   // A copy of the instance's record, as a project stores it.
   std::vector<uint8_t> FlattenedRecord(EffectInstance& instance);
 
@@ -52,11 +62,15 @@ class HostSession {
   // Sends a command and throws where it failed.
   CommandResult Demand(PF_Cmd cmd, EffectInstance* instance = nullptr, void* extra = nullptr);
 
+  // Throws where the command failed, keeps what the plug-in has to tell otherwise.
+  void Judge(PF_Cmd cmd, const CommandResult& result);
+
   PF_EventExtra PointerEvent(EffectInstance& instance, size_t row, PF_EventType type,
                              PF_Point point);
 
   EffectHost host;
   std::vector<std::unique_ptr<EffectInstance>> instances;
+  std::mutex messagesMutex;
   std::vector<std::string> messages;
   PF_Context context{};
   PF_Context* contextAddress = &context;

@@ -28,6 +28,8 @@ PF_Err RegisterUi(PF_ProgPtr effect_ref, PF_CustomUIInfo* cust_info) {
   if (scope == nullptr) return PF_Err_INVALID_CALLBACK;
   const PF_Err error = scope->EnterCall(kCall, effect_ref);
   if (error != PF_Err_NONE) return error;
+  const PF_Err refusal = scope->RefuseInRender(kCall);
+  if (refusal != PF_Err_NONE) return refusal;
   scope->Host().customEvents = cust_info->events;
   return PF_Err_NONE;
 }

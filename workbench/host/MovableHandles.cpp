@@ -52,6 +52,7 @@ PF_Handle MovableHandles::New(uint64_t size) {
 PF_Handle MovableHandles::NewFrom(std::span<const uint8_t> bytes) {
   const PF_Handle handle = New(bytes.size());
   if (handle != nullptr && !bytes.empty()) {
+    const std::scoped_lock guard(mutex);
     std::memcpy(FindLive(handle)->memory.get(), bytes.data(), bytes.size());
   }
   return handle;
@@ -66,8 +67,8 @@ MovableHandles::Outcome MovableHandles::Lock(PF_Handle handle) {
   const std::scoped_lock guard(mutex);
   Block* block = FindLive(handle);
   if (block == nullptr) return {nullptr, "the handle is not one of the host's, or is disposed of"};
-  ++block->lockCount;
-  block->visible = block->memory.get();
+  // Whoever holds a lock already may be reading the address on another thread.
+  if (block->lockCount++ == 0) block->visible = block->memory.get();
   return {block->memory.get(), ""};
 }
 

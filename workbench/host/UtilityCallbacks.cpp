@@ -1,4 +1,5 @@
-// Callbacks for handles, mathematics, text and the main window.
+// Callbacks for handles, worlds, mathematics, text and the main window.
+#include <algorithm>
 #include <cmath>
 #include <cstdarg>
 #include <cstdio>
@@ -59,6 +60,42 @@ A_HandleSize GetHandleSize(PF_Handle handle) {
   return scope->Host().Handles().Size(handle);
 }
 
+// The part of a rectangle that lies in the world; empty where right isn't right of left, and so on.
+PF_Rect Clipped(const PF_Rect* rect, const OutputWorld& world) {
+  if (rect == nullptr) return {0, 0, world.Width(), world.Height()};
+  return {std::max(rect->left, 0), std::max(rect->top, 0), std::min(rect->right, world.Width()),
+          std::min(rect->bottom, world.Height())};
+}
+
+// color   null: black with alpha 0
+void FillPixels(std::span<PF_Pixel> pixels, const PF_Pixel* color) {
+  if (color == nullptr) {
+    std::memset(pixels.data(), 0, pixels.size_bytes());
+  } else {
+    std::fill(pixels.begin(), pixels.end(), *color);
+  }
+}
+
+PF_Err Fill(PF_ProgPtr effect_ref, const PF_Pixel* color, const PF_Rect* dst_rect,
+            PF_EffectWorld* world) {
+  constexpr const char* kCall = "fill";
+  CommandScope* scope = CommandScope::Current();
+  if (scope == nullptr) return PF_Err_INVALID_CALLBACK;
+  const PF_Err error = scope->EnterCall(kCall, effect_ref);
+  if (error != PF_Err_NONE) return error;
+  if (scope->output == nullptr || world != scope->output->Record()) {
+    return scope->Broken(kCall, "the world is not one of the host's");
+  }
+  const PF_Rect area = Clipped(dst_rect, *scope->output);
+  if (area.right <= area.left) return PF_Err_NONE;
+  const auto left = static_cast<size_t>(area.left);
+  const auto width = static_cast<size_t>(area.right) - left;
+  for (A_long y = area.top; y < area.bottom; ++y) {
+    FillPixels(scope->output->Row(y).subspan(left, width), color);
+  }
+  return PF_Err_NONE;
+}
+
 // The stand-in has no window of its own.
 PF_Err GetPlatformData(PF_ProgPtr effect_ref, PF_PlatDataID which, void* data) {
   constexpr const char* kCall = "get_platform_data";
@@ -105,6 +142,7 @@ PF_ANSICallbacks AnsiCallbacks() {
 
 PF_UtilCallbacks MakeCallbacks() {
   PF_UtilCallbacks callbacks{};
+  callbacks.fill = Fill;
   callbacks.host_new_handle = NewHandle;
   callbacks.host_lock_handle = LockHandle;
   callbacks.host_unlock_handle = UnlockHandle;
