@@ -5,7 +5,7 @@
 #include <filesystem>
 #include <fstream>
 
-#include "workbench/audio/FFmpeg.h"
+#include "workbench/FFmpeg.h"
 
 // FFmpeg gets bytes and needs no protocol to open them with, so that every protocol can be shut: no
 // playlist, session description or reference in a file makes it open another one or the network.

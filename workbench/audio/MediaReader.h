@@ -3,7 +3,7 @@
 
 #include <filesystem>
 
-#include "workbench/audio/FFmpeg.h"
+#include "workbench/FFmpeg.h"
 #include "workbench/audio/InputFile.h"
 
 class MediaReader {

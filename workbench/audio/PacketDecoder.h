@@ -3,7 +3,7 @@
 
 #include <functional>
 
-#include "workbench/audio/FFmpeg.h"
+#include "workbench/FFmpeg.h"
 
 class PacketDecoder {
  public:

@@ -6,7 +6,7 @@
 #include <span>
 #include <vector>
 
-#include "workbench/audio/FFmpeg.h"
+#include "workbench/FFmpeg.h"
 
 class StereoConverter {
  public:

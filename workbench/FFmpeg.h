@@ -1,4 +1,4 @@
-// FFmpeg's declarations, and an owner for each of its objects that this folder holds.
+// FFmpeg's declarations, and an owner for each of its objects that the workbench holds.
 #pragma once
 
 #include <memory>
@@ -28,7 +28,13 @@ struct IoContextDeleter {
   }
 };
 
+// A context that files are written through is freed otherwise than one that was opened for reading.
+struct OutputFormatDeleter {
+  void operator()(AVFormatContext* format) const { avformat_free_context(format); }
+};
+
 using FormatOwner = std::unique_ptr<AVFormatContext, FFmpegDeleter<avformat_close_input>>;
+using OutputFormatOwner = std::unique_ptr<AVFormatContext, OutputFormatDeleter>;
 using CodecOwner = std::unique_ptr<AVCodecContext, FFmpegDeleter<avcodec_free_context>>;
 using PacketOwner = std::unique_ptr<AVPacket, FFmpegDeleter<av_packet_free>>;
 using FrameOwner = std::unique_ptr<AVFrame, FFmpegDeleter<av_frame_free>>;
