@@ -9,6 +9,8 @@
 #include "workbench/cli/ApplyCommand.h"
 #include "workbench/cli/Options.h"
 #include "workbench/cli/ParamsCommand.h"
+#include "workbench/cli/RenderCommand.h"
+#include "workbench/cli/RenderOptions.h"
 #include "workbench/cli/Stage.h"
 
 namespace {
@@ -74,6 +76,26 @@ void AddStageOptions(CLI::App& command, StageOptions& options) {
   command.add_flag("--quiet", options.quiet, "No progress and no table");
 }
 
+void AddRenderOptions(CLI::App& command, RenderOptions& options) {
+  const auto add = [&](const char* name, auto parse, auto& target, const char* help) {
+    return command.add_option_function<std::string>(
+        name, [parse, &target](const std::string& text) { target = parse(text); }, help);
+  };
+  command.add_option("AUDIO", options.audio, "Any audio or video file")->required();
+  add("--frames", ParseFrames, options.frames,
+      "A..B or N, numbers of the comp's frames; or loudest, the frame at the loudest moment")
+      ->required();
+  command
+      .add_option("--out", options.out,
+                  "PNG files, such as frames/%05d.png with the frame's number, or a .mov")
+      ->required();
+  add("--downsample", ParseDownsample, options.downsample, "Renders at 1/N of the size; default 1");
+  add("--over", ParseGround, options.ground,
+      "checker or black: puts a ground behind the frames; default none");
+  add("--threads", ParseThreads, options.threads,
+      "How many frames the plug-in is sent at once; default 1");
+}
+
 int RunParams(const StageOptions& options, bool asJson) {
   Stage stage(options, "Solid", nullptr);
   const std::string text = asJson ? ParameterJson(stage) : ParameterLines(stage);
@@ -103,10 +125,13 @@ int RunCommandLine(int argc, const char* const* argv) {
   apply->add_option("AUDIO", applyOptions.audio, "Any audio or video file")->required();
   apply->add_option("--out", applyOptions.out, "The keyframes: a .csv, .json or .txt file")
       ->required();
+  RenderOptions renderOptions;
+  CLI::App* render = app.add_subcommand("render", "Renders the graph to pictures or a movie");
+  AddRenderOptions(*render, renderOptions);
   CLI::App* params = app.add_subcommand("params", "Lists the parameters");
   params->add_flag("--json", asJson, "As JSON");
   CLI::App* about = app.add_subcommand("about", "Shows the About text");
-  for (CLI::App* command : {apply, params, about}) AddStageOptions(*command, stageOptions);
+  for (CLI::App* command : {apply, render, params, about}) AddStageOptions(*command, stageOptions);
 
   try {
     app.parse(argc, argv);
@@ -115,6 +140,7 @@ int RunCommandLine(int argc, const char* const* argv) {
     throw UsageFailure(std::string(failure.what()) + ". Run with --help for what there is.");
   }
   if (apply->parsed()) return RunApply(stageOptions, applyOptions);
+  if (render->parsed()) return RunRender(stageOptions, renderOptions);
   if (params->parsed()) return RunParams(stageOptions, asJson);
   return RunAbout(stageOptions);
 }
