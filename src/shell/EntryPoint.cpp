@@ -5,6 +5,7 @@
 #include "shell/About.h"
 #include "shell/GlobalCommands.h"
 #include "shell/ParameterTable.h"
+#include "shell/RenderFrame.h"
 #include "shell/SequenceCommands.h"
 #include "shell/SetupParams.h"
 #include "shell/ThrownFailure.h"
@@ -28,7 +29,7 @@ PF_Err DispatchEvent(PF_InData* in_data, PF_OutData* out_data, PF_ParamDef** par
 }
 
 PF_Err Dispatch(PF_Cmd cmd, PF_InData* in_data, PF_OutData* out_data, PF_ParamDef** params,
-                void* extra) {
+                PF_LayerDef* output, void* extra) {
   switch (cmd) {
     case PF_Cmd_ABOUT:
       return ShowAbout(in_data, out_data);
@@ -46,6 +47,8 @@ PF_Err Dispatch(PF_Cmd cmd, PF_InData* in_data, PF_OutData* out_data, PF_ParamDe
       return FlattenSequence(in_data, out_data);
     case PF_Cmd_SEQUENCE_SETDOWN:
       return SetDownSequence(in_data, out_data);
+    case PF_Cmd_RENDER:
+      return RenderFrame(in_data, out_data, params, output);
     case PF_Cmd_USER_CHANGED_PARAM:
     case PF_Cmd_UPDATE_PARAMS_UI:
       UpdateParamsUI(in_data, out_data, params);
@@ -63,9 +66,9 @@ PF_Err Dispatch(PF_Cmd cmd, PF_InData* in_data, PF_OutData* out_data, PF_ParamDe
 
 extern "C" DELVIOR_EXPORT PF_Err EntryPointFunc(PF_Cmd cmd, PF_InData* in_data,
                                                 PF_OutData* out_data, PF_ParamDef* params[],
-                                                PF_LayerDef* /*output*/, void* extra) {
+                                                PF_LayerDef* output, void* extra) {
   try {
-    return Dispatch(cmd, in_data, out_data, params, extra);
+    return Dispatch(cmd, in_data, out_data, params, output, extra);
   } catch (...) {
     return ReportThrownFailure(out_data);
   }
