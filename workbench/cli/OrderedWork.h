@@ -10,8 +10,8 @@ struct OrderedWork {
   std::function<void(int worker, int64_t item)> take;  // one at a time, in the order of the items
 };
 
-// Does the work for each item from `first` to `last`, both included, with at most `workers` threads, the calling
-// one among them. With one worker all happens in order on the calling thread.
+// Does the work for each item from `first` to `last`, both included, with at most `workers`
+// threads, the calling one among them. With one worker all happens in order on the calling thread.
 //
 // Throws what the first item in order to fail has thrown; no item behind it is taken. All threads
 // have ended by then.

@@ -134,7 +134,7 @@ TEST_F(MovieFileTest, LeavesNothingWhenItIsNotPublishedOrDoesNotFit) {
   rlimit before{};
   getrlimit(RLIMIT_FSIZE, &before);
   auto* const handler = std::signal(SIGXFSZ, SIG_IGN);
-  for (const rlim_t limit : {20, 5000}) {
+  for (const rlim_t limit : {20U, 5000U}) {
     const rlimit small{limit, before.rlim_max};
     setrlimit(RLIMIT_FSIZE, &small);
     try {
