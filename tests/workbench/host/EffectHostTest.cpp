@@ -3,9 +3,9 @@
 
 #include <gtest/gtest.h>
 
-#include <cstring>
 #include <limits>
 #include <optional>
+#include <string_view>
 
 #include "workbench/host/AudioCallbacks.h"
 
@@ -30,7 +30,7 @@ class RudeEffect : public testing::Test {
  protected:
   RudeEffect() {
     PF_ParamDef def{};
-    std::strcpy(def.name, "Output");
+    std::string_view("Output").copy(def.name, sizeof def.name);
     for (const PF_ParamType type : {PF_Param_FIX_SLIDER, PF_Param_LAYER}) {
       def.param_type = type;
       host.Parameters().Add(def);
@@ -103,23 +103,24 @@ TEST_F(RudeEffect, GetsTheErrorOfTheCallThatIsToFailAndOfNoOther) {
 struct WindowCase {
   A_long start = 0, duration = 0;
   A_u_long scale = 0;
-  int64_t first = 0, count = 0;  // frames; count -1: refused
+  A_long count = 0;  // frames; -1: refused
+  int64_t first = 0;
   PF_ParamIndex parameter = kSound;
 };
 constexpr WindowCase kWindowCases[] = {
-    {0, 150, 1000, 0, 6615},
-    {-1, 30, 3000, -15, 441},
+    {0, 150, 1000, 6615, 0},
+    {-1, 30, 3000, 441, -15},
     {1, 1, 3000, 14, 14},
-    {-7, 300, 44101, -7, 299},
-    {-1, 3, 100, -441, 1323},
-    {22, 1, 100, 9702, 441},
-    {kFirstTick, 1, 1, -94704028876800, 44100},
-    {kLastTick, 1, 4294967295U, 22049, 0},
-    {0, kLastTick, 1, 0, -1},
-    {0, -1, 30, 0, -1},
-    {0, 1, 0, 0, -1},
-    {0, 1, 30, 0, -1, 1},
-    {0, 1, 30, 0, -1, 99},
+    {-7, 300, 44101, 299, -7},
+    {-1, 3, 100, 1323, -441},
+    {22, 1, 100, 441, 9702},
+    {kFirstTick, 1, 1, 44100, -94704028876800},
+    {kLastTick, 1, 4294967295U, 0, 22049},
+    {0, kLastTick, 1, -1, 0},
+    {0, -1, 30, -1, 0},
+    {0, 1, 0, -1, 0},
+    {0, 1, 30, -1, 0, 1},
+    {0, 1, 30, -1, 0, 99},
 };
 
 TEST_F(RudeEffect, HearsTheFramesThatFloorArithmeticNamesAndSilenceOutside) {
@@ -131,8 +132,9 @@ TEST_F(RudeEffect, HearsTheFramesThatFloorArithmeticNamesAndSilenceOutside) {
     ASSERT_EQ(audio != nullptr, c.count >= 0) << c.start << ' ' << c.duration << '/' << c.scale;
     if (audio == nullptr) continue;
     const std::vector<int16_t>& samples = scope.audio.Find(audio)->samples;
-    ASSERT_EQ(samples.size(), static_cast<size_t>(2 * c.count)) << c.start << '/' << c.scale;
-    for (int64_t i = 0; i < 2 * c.count; ++i) {
+    const int64_t count = int64_t{c.count} * 2;
+    ASSERT_EQ(samples.size(), static_cast<size_t>(count)) << c.start << '/' << c.scale;
+    for (int64_t i = 0; i < count; ++i) {
       const int64_t frame = c.first + i / 2;
       const int64_t left = frame >= 0 && frame < kSoundFrames ? frame + 1 : 0;
       ASSERT_EQ(samples[static_cast<size_t>(i)], i % 2 == 0 ? left : -left) << c.start << ' ' << i;

@@ -13,11 +13,11 @@ constexpr A_long kFirst = std::numeric_limits<A_long>::min();
 constexpr A_long kLast = std::numeric_limits<A_long>::max();
 
 // `largest` of a popup is the number of choices that it claims to have.
-PF_ParamDef Definition(PF_ParamType type, const char* name, A_long smallest = 0, A_long largest = 0,
-                       A_long value = 0) {
+PF_ParamDef Definition(PF_ParamType type, std::string_view name, A_long smallest = 0,
+                       A_long largest = 0, A_long value = 0) {
   PF_ParamDef def{};
   def.param_type = type;
-  std::strcpy(def.name, name);
+  name.copy(def.name, sizeof def.name);
   PF_ParamDefUnion& u = def.u;
   if (type == PF_Param_FIX_SLIDER) u.fd = {value, "", "", smallest, largest, 0, 0, 0, 0, 0};
   if (type == PF_Param_SLIDER) u.sd = {value, "", "", smallest, largest, 0, 0, 0};
