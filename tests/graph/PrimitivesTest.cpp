@@ -1,5 +1,5 @@
-// Catches dimming that is done once too often or too rarely, and marks on
-// row 0, on column 0 or outside of the world.
+// Catches dimming that is done once too often or too rarely, and marks on row 0, on column 0 or
+// outside of the world.
 #include <gtest/gtest.h>
 
 #include <algorithm>

@@ -14,7 +14,7 @@
 #include "workbench/export/KeyframeClipboardText.h"
 #include "workbench/export/KeyframeCsv.h"
 #include "workbench/export/KeyframeJson.h"
-#include "workbench/export/WholeFile.h"
+#include "workbench/export/PartFile.h"
 
 namespace {
 
@@ -69,12 +69,25 @@ KeyframeTable TableOf(Stage& stage) {
   return table;
 }
 
+// Nothing stops a run once it has begun, so one that would go on for hours isn't begun.
+void RequireBoundedRun(const Comp& comp) {
+  constexpr double kMostKeyframes = 1e7;
+  constexpr double kFastestOwnRate = 200.0;
+  const double framesPerSecond = static_cast<double>(comp.timeScale) / comp.timeStep;
+  const double seconds = static_cast<double>(comp.workAreaDuration) / comp.timeScale;
+  if (seconds * std::max(framesPerSecond, kFastestOwnRate) <= kMostKeyframes) return;
+  throw UsageFailure(
+      "A run over this work area could make more than ten million keyframes. Narrow it with "
+      "--work-area, or lower --fps.");
+}
+
 }  // namespace
 
 int RunApply(const StageOptions& stageOptions, const ApplyOptions& options) {
   const TextWriter writer = WriterFor(options.out);
   const auto sound = std::make_shared<const AudioClip>(DecodeAudioFile(options.audio));
   Stage stage(stageOptions, options.audio.filename().string(), sound);
+  RequireBoundedRun(stage.ProjectComp());
   {
     ProgressLine progress(stageOptions.quiet);
     stage.Session().Host().onInfoText = [&progress](const char* text) { progress.Show(text); };
@@ -84,7 +97,10 @@ int RunApply(const StageOptions& stageOptions, const ApplyOptions& options) {
   for (const std::string& message : stage.Session().Messages()) std::cerr << message << '\n';
   const KeyframeTable table = TableOf(stage);
   const std::string text = writer(table);
-  stage.Finish([&] { WriteWholeFile(options.out, text); });
+  PartFile file(options.out);
+  file.Write(text);
+  file.Close();
+  stage.Finish([&file] { file.Publish(); });
   if (!stageOptions.quiet) std::cout << SummaryOf(table, options.out);
   return 0;
 }

@@ -2,11 +2,12 @@
 #include "workbench/cli/Stage.h"
 
 #include <algorithm>
+#include <list>
 
 #include "workbench/Failure.h"
 #include "workbench/cli/ExecutableFolder.h"
 #include "workbench/cli/ProjectFile.h"
-#include "workbench/export/WholeFile.h"
+#include "workbench/export/PartFile.h"
 #include "workbench/host/ParameterText.h"
 
 namespace {
@@ -72,7 +73,7 @@ void Stage::ApplySettings() {
   }
 }
 
-void Stage::Finish(const std::function<void()>& writeFirst) {
+void Stage::Finish(const std::function<void()>& publishFirst) {
   std::vector<uint8_t> record;
   std::string project;
   if (!options.record.empty() || !options.project.empty()) {
@@ -82,7 +83,15 @@ void Stage::Finish(const std::function<void()>& writeFirst) {
     project = ProjectFileText(session.Parameters(), *instance, record);
   }
   session.Close();
-  if (writeFirst) writeFirst();
-  if (!options.record.empty()) WriteWholeFile(options.record, AsBytes(record));
-  if (!options.project.empty()) WriteWholeFile(options.project, project);
+  // All files are whole before the first takes its name, so that a full disk leaves none.
+  std::list<PartFile> files;
+  const auto prepare = [&files](const std::filesystem::path& path, std::string_view bytes) {
+    PartFile& file = files.emplace_back(path);
+    file.Write(bytes);
+    file.Close();
+  };
+  if (!options.record.empty()) prepare(options.record, AsBytes(record));
+  if (!options.project.empty()) prepare(options.project, project);
+  if (publishFirst) publishFirst();
+  for (PartFile& file : files) file.Publish();
 }

@@ -25,8 +25,8 @@ class Stage {
   const Comp& ProjectComp() const { return comp; }
 
   // Takes the plug-in down and then writes the files that every command may leave: the project and
-  // the record. `writeFirst` writes the command's own file before them.
-  void Finish(const std::function<void()>& writeFirst = {});
+  // the record. `publishFirst` gives the command's own file its name, when the others are whole.
+  void Finish(const std::function<void()>& publishFirst = {});
 
  private:
   void ApplySettings();

@@ -23,7 +23,10 @@ int main(int argc, char** argv) {
   constexpr int kJobFailed = 1;
   constexpr int kWrongCommandLine = 2;
   try {
-    return RunCommandLine(argc, argv);
+    const int status = RunCommandLine(argc, argv);
+    if (std::cout.flush()) return status;
+    ShowFailure("What was to be printed could not be written. Is the disk full?");
+    return kJobFailed;
   } catch (const UsageFailure& failure) {
     ShowFailure(failure.what());
     return kWrongCommandLine;
