@@ -9,27 +9,23 @@
 
 namespace {
 
-PF_FixedSliderDef FixedSliderDef(const SliderRange& range) {
-  PF_FixedSliderDef def{};
+// Both kinds of slider have these fields, in units of their own.
+template <typename SliderDef>
+SliderDef WithLimits(const SliderRange& range) {
+  SliderDef def{};
   def.value = range.initial;
   def.valid_min = range.validMin;
   def.valid_max = range.validMax;
   def.slider_min = range.sliderMin;
   def.slider_max = range.sliderMax;
   def.dephault = range.initial;
-  def.precision = range.precision;
-  def.display_flags = range.displayFlags;
   return def;
 }
 
-PF_SliderDef SliderDef(const SliderRange& range) {
-  PF_SliderDef def{};
-  def.value = range.initial;
-  def.valid_min = range.validMin;
-  def.valid_max = range.validMax;
-  def.slider_min = range.sliderMin;
-  def.slider_max = range.sliderMax;
-  def.dephault = range.initial;
+PF_FixedSliderDef FixedSliderDef(const SliderRange& range) {
+  auto def = WithLimits<PF_FixedSliderDef>(range);
+  def.precision = range.precision;
+  def.display_flags = range.displayFlags;
   return def;
 }
 
@@ -73,7 +69,7 @@ PF_ParamDef Definition(const ParameterRow& row) {
       def.u.fd = FixedSliderDef(row.slider);
       break;
     case PF_Param_SLIDER:
-      def.u.sd = SliderDef(row.slider);
+      def.u.sd = WithLimits<PF_SliderDef>(row.slider);
       break;
     case PF_Param_POPUP:
       def.u.pd = PopupDef(row.popup);
