@@ -60,7 +60,8 @@ A_HandleSize GetHandleSize(PF_Handle handle) {
   return scope->Host().Handles().Size(handle);
 }
 
-// The part of a rectangle that lies in the world; empty where right isn't right of left, and so on.
+// The part of a rectangle that lies in the world. Where there is none, one edge isn't behind the
+// other.
 PF_Rect Clipped(const PF_Rect* rect, const OutputWorld& world) {
   if (rect == nullptr) return {0, 0, world.Width(), world.Height()};
   return {std::max(rect->left, 0), std::max(rect->top, 0), std::min(rect->right, world.Width()),

@@ -96,7 +96,7 @@ void ExpectPattern(const std::string& png, const Expected& e, const std::string&
   for (int32_t y = 0; y < e.height; ++y) {
     for (int32_t x = 0; x < e.width; ++x) {
       const PF_Pixel8 pixel = PatternPixel(x, y, e.tick, e.spot, e.downsample);
-      const PF_Pixel8& got = read[static_cast<size_t>(y * e.width + x)];
+      const PF_Pixel8& got = read[static_cast<size_t>(y) * image.width + static_cast<size_t>(x)];
       wrong += std::memcmp(&pixel, &got, sizeof pixel) == 0 ? 0 : 1;
     }
   }

@@ -20,7 +20,9 @@ struct Picture {
       : stride(width + 3), pixels(static_cast<size_t>(stride * height), PF_Pixel8{1, 2, 3, 4}) {
     frame = {pixels.data(), stride * 4, width, height};
   }
-  PF_Pixel8& At(int32_t x, int32_t y) { return pixels[static_cast<size_t>(y * stride + x)]; }
+  PF_Pixel8& At(int32_t x, int32_t y) {
+    return pixels.at(static_cast<size_t>(ptrdiff_t{y} * stride + x));
+  }
 
   int32_t stride;
   std::vector<PF_Pixel8> pixels;

@@ -97,7 +97,7 @@ TEST_F(MovieFileTest, DecodesToTheSamePixelsFramesAndRate) {
                         {2, 9, 1000000, 1, 2}};
   for (const Case& c : cases) {
     fs::remove(path);
-    const auto frames = SomeFrames(c.frames, static_cast<size_t>(c.width * c.height));
+    const auto frames = SomeFrames(c.frames, static_cast<size_t>(int64_t{c.width} * c.height));
     MovieFile file(path, c.width, c.height, c.scale, c.step);
     int64_t number = -5;
     for (const Pixels& pixels : frames) {

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <cstring>
+#include <deque>
 #include <limits>
 #include <optional>
 #include <thread>
@@ -107,8 +108,9 @@ TEST_F(Render, IsToldOfEveryByteBesideThePixels) {
 TEST_F(Render, OfAFrameOfTheCompTellsItsLayerTime) {
   using Limits = std::numeric_limits<int32_t>;
   struct Case {
-    int32_t step, layerStart;
-    int64_t frame;
+    int32_t step = 1;
+    int32_t layerStart = 0;
+    int64_t frame = 0;
     std::optional<int32_t> tick;
   };
   const Case cases[] = {{1, 0, 0, 0},
@@ -154,7 +156,7 @@ TEST_F(Render, MayRunOnSeveralThreadsThatHoldOneRecordAtTheSameTime) {
     Set(kDeed, deed);
     const int32_t before = CountOfRenders();
     {
-      std::vector<std::jthread> threads;
+      std::deque<std::jthread> threads;
       for (int thread = 0; thread < kThreads; ++thread) {
         threads.emplace_back([&, thread, count = frames] {
           OutputWorld world(16, 8);
