@@ -1,0 +1,11 @@
+// Pages of specimens: what the drawing can do, to be looked at.
+#pragma once
+
+#include "drawing/ImageBuffer.h"
+
+// A page draws itself into a picture of 640 x 400 logical pixels, on the panels' dark grey; the
+// picture is scale-aware at scale 1 and at scale 2.
+struct Page {
+  const char* name;  // of the file, without what tells the scale
+  void (*draw)(ImageBuffer& page);
+};
