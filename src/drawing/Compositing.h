@@ -22,7 +22,7 @@ inline void CompositePixel(ColorBGRA& pixel, ColorBGRA source, int32_t alpha) {
   if (pixel.alpha < 255) {
     const int32_t newAlpha = (((256 - alpha) * pixel.alpha) >> 8) + alpha;
     pixel.alpha = static_cast<uint8_t>(newAlpha);
-    alpha = static_cast<int32_t>(alpha * 255.0 / newAlpha);
+    alpha = alpha * 255 / newAlpha;
   }
   const auto mix = [alpha](uint8_t from, uint8_t to) {
     return static_cast<uint8_t>((((to - from) * alpha) >> 8) + from);

@@ -1,13 +1,23 @@
-// Memory of a picture.
+// Memory of a picture, its coordinates, and filling rectangles in it.
 #include "drawing/ImageBuffer.h"
 
 #include <algorithm>
 #include <cstddef>
+#include <limits>
 #include <new>
 
+#include "drawing/Compositing.h"
 #include "engine/ExceptionInfo.h"
+#include "platform/Truncate.h"
 
-ImageBuffer::~ImageBuffer() { ImageBuffer::Release(); }
+ImageBuffer::ImageBuffer(const ImageBuffer& source) {
+  ImageBuffer::Allocate(source.width, source.height, false);
+  source.CopyTo(*this, source.Bounds(), 0, 0, 256, nullptr);
+}
+
+ImageBuffer::~ImageBuffer() {
+  ImageBuffer::Release();
+}
 
 void ImageBuffer::Allocate(int32_t newWidth, int32_t newHeight, bool alignRows) {
   if (newWidth == width && newHeight == height) return;
@@ -16,6 +26,9 @@ void ImageBuffer::Allocate(int32_t newWidth, int32_t newHeight, bool alignRows) 
     return;
   }
   const int64_t rowPixels = alignRows ? (int64_t{newWidth} + 3) / 4 * 4 : newWidth;
+  if (rowPixels * 4 > std::numeric_limits<int32_t>::max() / newHeight) {
+    throw App::ExceptionInfo{App::kOutOfMemory, nullptr};
+  }
   auto* memory = new (std::nothrow) uint8_t[static_cast<size_t>(rowPixels * 4 * newHeight)]();
   if (memory == nullptr) throw App::ExceptionInfo{App::kOutOfMemory, nullptr};
   Release();
@@ -39,6 +52,37 @@ void ImageBuffer::Release() {
   scaleAware = false;
 }
 
+void ImageBuffer::FillRect(const Rect& rect, ColorBGRA color, int32_t opacity, const Rect* clip) {
+  const Rect area = Intersection(ToPhysical(rect), ClippedBoundsOfLogical(clip));
+  if (IsEmpty(area) || opacity <= 0) return;
+  for (int32_t y = area.top; y < area.bottom; ++y) {
+    ColorBGRA* const end = Row(y) + area.right;
+    ColorBGRA* pixel = Row(y) + area.left;
+    if (opacity >= 256) {
+      std::fill(pixel, end, color);
+    } else {
+      for (; pixel != end; ++pixel) CompositePixel(*pixel, color, opacity);
+    }
+  }
+}
+
+void ImageBuffer::DrawFrame(const Rect& rect, ColorBGRA color, int32_t thickness, int32_t opacity,
+                            const Rect* clip) {
+  if (IsEmpty(rect)) return;
+  const auto narrow = [](int64_t edge) {
+    using Limits = std::numeric_limits<int32_t>;
+    return static_cast<int32_t>(std::clamp<int64_t>(edge, Limits::min(), Limits::max()));
+  };
+  const int32_t innerLeft = narrow(int64_t{rect.left} + thickness);
+  const int32_t innerTop = narrow(int64_t{rect.top} + thickness);
+  const int32_t innerRight = narrow(int64_t{rect.right} - thickness);
+  const int32_t innerBottom = narrow(int64_t{rect.bottom} - thickness);
+  FillRect({rect.left, rect.top, rect.right, innerTop}, color, opacity, clip);
+  FillRect({rect.left, innerTop, innerLeft, innerBottom}, color, opacity, clip);
+  FillRect({innerRight, innerTop, rect.right, innerBottom}, color, opacity, clip);
+  FillRect({rect.left, innerBottom, rect.right, rect.bottom}, color, opacity, clip);
+}
+
 ColorBGRA* ImageBuffer::Row(int32_t y) {
   if (pixels == nullptr) return nullptr;
   return reinterpret_cast<ColorBGRA*>(pixels + static_cast<ptrdiff_t>(y) * rowBytes);
@@ -47,4 +91,22 @@ ColorBGRA* ImageBuffer::Row(int32_t y) {
 const ColorBGRA* ImageBuffer::Row(int32_t y) const {
   if (pixels == nullptr) return nullptr;
   return reinterpret_cast<const ColorBGRA*>(pixels + static_cast<ptrdiff_t>(y) * rowBytes);
+}
+
+Rect ImageBuffer::ClippedBounds(const Rect* clip) const {
+  return clip == nullptr ? Bounds() : Intersection(Bounds(), *clip);
+}
+
+Rect ImageBuffer::ClippedBoundsOfLogical(const Rect* clip) const {
+  return clip == nullptr ? Bounds() : Intersection(Bounds(), ToPhysical(*clip));
+}
+
+int32_t ImageBuffer::ToPhysical(int32_t coordinate) const {
+  if (!ConvertsCoordinates()) return coordinate;
+  return Truncate<int32_t>(static_cast<float>(coordinate) * scale + 0.5F);
+}
+
+Rect ImageBuffer::ToPhysical(const Rect& rect) const {
+  return {ToPhysical(rect.left), ToPhysical(rect.top), ToPhysical(rect.right),
+          ToPhysical(rect.bottom)};
 }

@@ -9,8 +9,10 @@
 // Coordinates are physical pixels of the picture, unless it is scale-aware: then they are logical
 // ones, and v stands for the physical truncate(v x scale + 0.5), edge by edge.
 //
-// Opacity goes from 0 to 256, where 256 and more is opaque. A clip of null is the whole picture.
-// Anything that lies outside is cut away; empty and reversed rectangles draw nothing.
+// Opacity goes from 0 to 256, where 256 and more is opaque and less than 0 counts as 0. A clip of
+// null is the whole picture. Anything that lies outside is cut away; empty and reversed rectangles
+// draw nothing. A picture may be drawn onto itself: rows go from the top, each read before the
+// next.
 class ImageBuffer {
  public:
   ImageBuffer() = default;
@@ -23,6 +25,7 @@ class ImageBuffer {
   // where the size is the same; a width or height below 1 leaves an empty picture.
   //
   // alignRows   rows take a multiple of 4 pixels
+  // All bytes together must number less than 2^31.
   // Throws App::ExceptionInfo kOutOfMemory; the picture is as it was then.
   virtual void Allocate(int32_t newWidth, int32_t newHeight, bool alignRows);
 
@@ -36,8 +39,8 @@ class ImageBuffer {
   // blue, green and red are composited and the colour's own alpha plays no part.
   void FillRect(const Rect& rect, ColorBGRA color, int32_t opacity, const Rect* clip);
 
-  // Four fills of `thickness` just inside the rectangle's edges; the sides stand between top and
-  // bottom.
+  // Four fills of `thickness` inward from the rectangle's edges; the sides stand between top and
+  // bottom. A frame thicker than the rectangle reaches beyond it.
   void DrawFrame(const Rect& rect, ColorBGRA color, int32_t thickness, int32_t opacity,
                  const Rect* clip);
 
@@ -58,10 +61,11 @@ class ImageBuffer {
     bool bilinear = false;
     bool blend = false;     // composite with the sample's alpha
     bool additive = false;  // add blue, green and red; alpha becomes the larger one
-    int32_t opacity = 256;
+    int32_t opacity = 256;  // of the alpha that blend and additive use; else it plays no part
   };
 
   // Stretches `source` over `target`, a rectangle of the destination. Physical pixels throughout.
+  // `source` may reach beyond this picture, where all is 0; blend goes before additive.
   void ScaleTo(ImageBuffer& destination, const Rect& source, const Rect& target, const Rect* clip,
                const ScaleOptions& options) const;
 
@@ -82,6 +86,10 @@ class ImageBuffer {
 
   // Whether coordinates are logical ones that differ from physical ones.
   bool ConvertsCoordinates() const { return scaleAware && scale != 1.0F; }
+  // The picture's rectangle cut by a clip in physical pixels; null doesn't cut.
+  Rect ClippedBounds(const Rect* clip) const;
+  // The same with a clip in the picture's own coordinates, logical where it converts them.
+  Rect ClippedBoundsOfLogical(const Rect* clip) const;
   // Logical to physical, where this picture converts at all; else the same.
   int32_t ToPhysical(int32_t coordinate) const;
   Rect ToPhysical(const Rect& rect) const;

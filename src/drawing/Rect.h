@@ -1,6 +1,7 @@
 // Places in a picture or a panel, in whole pixels.
 #pragma once
 
+#include <algorithm>
 #include <cstdint>
 
 struct Point {
@@ -22,4 +23,10 @@ struct Rect {
 
 constexpr bool IsEmpty(const Rect& rect) {
   return rect.right <= rect.left || rect.bottom <= rect.top;
+}
+
+// What both have in common; an empty rectangle, of whatever edges, where that is nothing.
+constexpr Rect Intersection(const Rect& a, const Rect& b) {
+  return {std::max(a.left, b.left), std::max(a.top, b.top), std::min(a.right, b.right),
+          std::min(a.bottom, b.bottom)};
 }
