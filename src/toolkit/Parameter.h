@@ -1,0 +1,26 @@
+// A value that a control can be bound to.
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+class ParameterOwner;
+
+class Parameter {
+ public:
+  virtual ~Parameter() = default;
+
+  // Whether the value has changed since a control last took it.
+  virtual bool HasChanged() const = 0;
+  virtual const std::string& GetName() const = 0;
+
+  // The list that the parameter stands in, and where.
+  virtual void SetOwner(ParameterOwner* newOwner) { owner = newOwner; }
+  virtual ParameterOwner* GetOwner() const { return owner; }
+  virtual void SetIndex(int32_t newIndex) { index = newIndex; }
+  virtual int32_t GetIndex() const { return index; }
+
+ private:
+  ParameterOwner* owner = nullptr;
+  int32_t index = -1;
+};

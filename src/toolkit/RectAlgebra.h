@@ -1,0 +1,17 @@
+// Joining and cutting the areas of controls.
+#pragma once
+
+#include "drawing/Rect.h"
+
+// The smallest rectangle round both. An empty a gives b, whatever b is; an empty b gives a.
+Rect UnionOf(const Rect& a, const Rect& b);
+
+// Clamps each edge of a into b, which can leave a empty without making it all zero. An empty a
+// stays as it is; an empty b makes it all zero.
+Rect IntersectionOf(const Rect& a, const Rect& b);
+
+// The rectangle moved; edges beyond what an int32 holds stop there.
+Rect MovedBy(const Rect& rect, int32_t dx, int32_t dy);
+
+// Whether the point is inside, right and bottom excluded.
+bool Contains(const Rect& rect, const Point& point);

@@ -1,0 +1,21 @@
+// The buffers that all panels paint in.
+#pragma once
+
+#include <cstdint>
+
+#include "drawing/NativeImageBuffer.h"
+
+// Null until one is made.
+NativeImageBuffer* ScreenBuffer();
+
+// Nothing fills it: null.
+ImageBuffer* ScratchBuffer();
+
+// Makes a new screen buffer in place of the old one, in physical pixels, at scale 1. Throws
+// App::ExceptionInfo kOutOfMemory.
+NativeImageBuffer& MakeScreenBuffer(int32_t width, int32_t height);
+
+// A screen buffer at least as large as a panel, and as the one before it.
+void EnsureScreenBuffer(int32_t width, int32_t height);
+
+void DestroyScreenBuffer();
