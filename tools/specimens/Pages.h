@@ -9,3 +9,5 @@ struct Page {
   const char* name;  // of the file, without what tells the scale
   void (*draw)(ImageBuffer& page);
 };
+
+void DrawShapePage(ImageBuffer& page);

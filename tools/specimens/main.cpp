@@ -13,7 +13,9 @@ namespace {
 constexpr int kWidth = 640;
 constexpr int kHeight = 400;
 
-const std::vector<Page> kPages;
+const std::vector<Page> kPages = {
+    {"shapes", DrawShapePage},
+};
 
 void Write(const ImageBuffer& picture, const std::filesystem::path& file) {
   png_image image{};
