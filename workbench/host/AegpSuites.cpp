@@ -2,6 +2,7 @@
 #include <cmath>
 
 #include "workbench/host/EffectHost.h"
+#include "workbench/host/HostCall.h"
 #include "workbench/host/SuiteRegistry.h"
 
 namespace {
@@ -12,77 +13,65 @@ Reference AsReference(Object* object) {
 }
 
 // The command's layer, if `reference` is that layer.
-Layer* FindLayer(CommandScope& scope, const char* call, AEGP_LayerH reference) {
-  if (scope.Instance() != nullptr) {
-    Layer& layer = scope.Instance()->EffectLayer();
+Layer* FindLayer(const HostCall& call, AEGP_LayerH reference) {
+  if (call->Instance() != nullptr) {
+    Layer& layer = call->Instance()->EffectLayer();
     if (AsReference<AEGP_LayerH>(&layer) == reference) return &layer;
   }
-  scope.Broken(call, "the layer is not one of this project's");
+  call.Broken("the layer is not one of this project's");
   return nullptr;
 }
 
-Comp* FindComp(CommandScope& scope, const char* call, AEGP_CompH reference) {
-  if (scope.Instance() != nullptr) {
-    Comp* comp = scope.Instance()->EffectLayer().comp;
+Comp* FindComp(const HostCall& call, AEGP_CompH reference) {
+  if (call->Instance() != nullptr) {
+    Comp* comp = call->Instance()->EffectLayer().comp;
     if (AsReference<AEGP_CompH>(comp) == reference) return comp;
   }
-  scope.Broken(call, "the comp is not one of this project's");
+  call.Broken("the comp is not one of this project's");
   return nullptr;
 }
 
 A_Err GetEffectLayer(PF_ProgPtr effect_ref, AEGP_LayerH* layer) {
-  constexpr const char* kCall = "AEGP_GetEffectLayer";
-  CommandScope* scope = CommandScope::Current();
-  if (scope == nullptr) return PF_Err_INVALID_CALLBACK;
-  const PF_Err error = scope->EnterCall(kCall, effect_ref);
-  if (error != PF_Err_NONE) return error;
-  if (scope->Instance() == nullptr) return scope->Broken(kCall, "there is no instance");
-  *layer = AsReference<AEGP_LayerH>(&scope->Instance()->EffectLayer());
+  const HostCall call("AEGP_GetEffectLayer", effect_ref);
+  if (!call) return call.Error();
+  if (call->Instance() == nullptr) return call.Broken("there is no instance");
+  *layer = AsReference<AEGP_LayerH>(&call->Instance()->EffectLayer());
   return PF_Err_NONE;
 }
 
 A_Err GetNewEffectForEffect(AEGP_PluginID /*id*/, PF_ProgPtr effect_ref, AEGP_EffectRefH* effect) {
-  constexpr const char* kCall = "AEGP_GetNewEffectForEffect";
-  CommandScope* scope = CommandScope::Current();
-  if (scope == nullptr) return PF_Err_INVALID_CALLBACK;
-  const PF_Err error = scope->EnterCall(kCall, effect_ref);
-  if (error != PF_Err_NONE) return error;
-  if (scope->Instance() == nullptr) return scope->Broken(kCall, "there is no instance");
-  *effect = AsReference<AEGP_EffectRefH>(&scope->effects.Open({*scope->Instance()}));
+  const HostCall call("AEGP_GetNewEffectForEffect", effect_ref);
+  if (!call) return call.Error();
+  if (call->Instance() == nullptr) return call.Broken("there is no instance");
+  *effect = AsReference<AEGP_EffectRefH>(&call->effects.Open({*call->Instance()}));
   return PF_Err_NONE;
 }
 
 A_Err GetLayerParentComp(AEGP_LayerH reference, AEGP_CompH* comp) {
-  CommandScope* scope = CommandScope::Current();
-  if (scope == nullptr) return PF_Err_INVALID_CALLBACK;
-  const PF_Err error = scope->EnterCall();
-  if (error != PF_Err_NONE) return error;
-  const Layer* layer = FindLayer(*scope, "AEGP_GetLayerParentComp", reference);
+  const HostCall call("AEGP_GetLayerParentComp");
+  if (!call) return call.Error();
+  const Layer* layer = FindLayer(call, reference);
   if (layer == nullptr) return PF_Err_BAD_CALLBACK_PARAM;
   *comp = AsReference<AEGP_CompH>(layer->comp);
   return PF_Err_NONE;
 }
 
 A_Err ConvertCompToLayerTime(AEGP_LayerH reference, const A_Time* comp_time, A_Time* layer_time) {
-  constexpr const char* kCall = "AEGP_ConvertCompToLayerTime";
-  CommandScope* scope = CommandScope::Current();
-  if (scope == nullptr) return PF_Err_INVALID_CALLBACK;
-  const PF_Err error = scope->EnterCall();
-  if (error != PF_Err_NONE) return error;
-  const Layer* layer = FindLayer(*scope, kCall, reference);
+  const HostCall call("AEGP_ConvertCompToLayerTime");
+  if (!call) return call.Error();
+  const Layer* layer = FindLayer(call, reference);
   if (layer == nullptr) return PF_Err_BAD_CALLBACK_PARAM;
-  if (comp_time->scale == 0) return scope->Broken(kCall, "the time's scale is 0");
+  if (comp_time->scale == 0) return call.Broken("the time's scale is 0");
   *layer_time = CompToLayerTime(*layer, *comp_time);
   return PF_Err_NONE;
 }
 
 // Both ends of the work area differ only in which field is read.
-A_Err GetWorkAreaTime(const char* call, AEGP_CompH reference, int32_t Comp::*ticks, A_Time* time) {
-  CommandScope* scope = CommandScope::Current();
-  if (scope == nullptr) return PF_Err_INVALID_CALLBACK;
-  const PF_Err error = scope->EnterCall();
-  if (error != PF_Err_NONE) return error;
-  const Comp* comp = FindComp(*scope, call, reference);
+A_Err GetWorkAreaTime(const char* callName, AEGP_CompH reference, int32_t Comp::*ticks,
+                      A_Time* time) {
+  const HostCall call(callName);
+  if (!call) return call.Error();
+  const Comp* comp = FindComp(call, reference);
   if (comp == nullptr) return PF_Err_BAD_CALLBACK_PARAM;
   *time = {comp->*ticks, comp->timeScale};
   return PF_Err_NONE;
@@ -98,66 +87,56 @@ A_Err GetCompWorkAreaDuration(AEGP_CompH comp, A_Time* time) {
 
 A_Err GetNewEffectStreamByIndex(AEGP_PluginID /*id*/, AEGP_EffectRefH reference,
                                 PF_ParamIndex index, AEGP_StreamRefH* stream) {
-  constexpr const char* kCall = "AEGP_GetNewEffectStreamByIndex";
-  CommandScope* scope = CommandScope::Current();
-  if (scope == nullptr) return PF_Err_INVALID_CALLBACK;
-  const PF_Err error = scope->EnterCall();
-  if (error != PF_Err_NONE) return error;
-  OpenEffect* effect = scope->effects.Find(reference);
-  if (effect == nullptr) return scope->Broken(kCall, "the effect reference is not open");
+  const HostCall call("AEGP_GetNewEffectStreamByIndex");
+  if (!call) return call.Error();
+  OpenEffect* effect = call->effects.Find(reference);
+  if (effect == nullptr) return call.Broken("the effect reference is not open");
   if (index < 1 || static_cast<size_t>(index) >= effect->instance.ParameterCount() ||
       !HasValue(effect->instance.Value(static_cast<size_t>(index)).param_type)) {
-    return scope->Broken(kCall, "parameter " + std::to_string(index) + " has no stream");
+    return call.Broken("parameter " + std::to_string(index) + " has no stream");
   }
   *stream =
-      AsReference<AEGP_StreamRefH>(&scope->streams.Open({*effect, static_cast<size_t>(index)}));
+      AsReference<AEGP_StreamRefH>(&call->streams.Open({*effect, static_cast<size_t>(index)}));
   return PF_Err_NONE;
 }
 
 // Letting go takes effect even where the host then answers with an error; so do the two below.
 A_Err DisposeStream(AEGP_StreamRefH reference) {
-  constexpr const char* kCall = "AEGP_DisposeStream";
-  CommandScope* scope = CommandScope::Current();
-  if (scope == nullptr) return PF_Err_INVALID_CALLBACK;
-  const PF_Err error = scope->EnterCall();
-  const OpenStream* stream = scope->streams.Find(reference);
-  if (stream == nullptr) return scope->Broken(kCall, "the stream is not open");
-  if (scope->batches.Any([stream](const OpenBatch& batch) { return &batch.stream == stream; })) {
-    return scope->Broken(kCall, "a batch of keyframes is still open on the stream");
+  const HostCall call("AEGP_DisposeStream");
+  if (!call.IsWithinCommand()) return call.Error();
+  const OpenStream* stream = call->streams.Find(reference);
+  if (stream == nullptr) return call.Broken("the stream is not open");
+  if (call->batches.Any([stream](const OpenBatch& batch) { return &batch.stream == stream; })) {
+    return call.Broken("a batch of keyframes is still open on the stream");
   }
-  scope->streams.Close(stream);
-  return error;
+  call->streams.Close(stream);
+  return call.Error();
 }
 
 A_Err DisposeEffect(AEGP_EffectRefH reference) {
-  constexpr const char* kCall = "AEGP_DisposeEffect";
-  CommandScope* scope = CommandScope::Current();
-  if (scope == nullptr) return PF_Err_INVALID_CALLBACK;
-  const PF_Err error = scope->EnterCall();
-  const OpenEffect* effect = scope->effects.Find(reference);
-  if (effect == nullptr) return scope->Broken(kCall, "the effect reference is not open");
-  if (scope->streams.Any([effect](const OpenStream& stream) { return &stream.effect == effect; })) {
-    return scope->Broken(kCall, "a stream of the effect is still open");
+  const HostCall call("AEGP_DisposeEffect");
+  if (!call.IsWithinCommand()) return call.Error();
+  const OpenEffect* effect = call->effects.Find(reference);
+  if (effect == nullptr) return call.Broken("the effect reference is not open");
+  if (call->streams.Any([effect](const OpenStream& stream) { return &stream.effect == effect; })) {
+    return call.Broken("a stream of the effect is still open");
   }
-  scope->effects.Close(effect);
-  return error;
+  call->effects.Close(effect);
+  return call.Error();
 }
 
 A_Err StartAddKeyframes(AEGP_StreamRefH reference, AEGP_AddKeyframesInfoH* info) {
-  constexpr const char* kCall = "AEGP_StartAddKeyframes";
-  CommandScope* scope = CommandScope::Current();
-  if (scope == nullptr) return PF_Err_INVALID_CALLBACK;
-  const PF_Err error = scope->EnterCall();
-  if (error != PF_Err_NONE) return error;
-  const PF_Err refusal = scope->RefuseInRender(kCall);
+  const HostCall call("AEGP_StartAddKeyframes");
+  if (!call) return call.Error();
+  const PF_Err refusal = call.RefuseInRender();
   if (refusal != PF_Err_NONE) return refusal;
-  OpenStream* stream = scope->streams.Find(reference);
-  if (stream == nullptr) return scope->Broken(kCall, "the stream is not open");
+  OpenStream* stream = call->streams.Find(reference);
+  if (stream == nullptr) return call.Broken("the stream is not open");
   const PF_ParamDef& def = stream->effect.instance.Value(stream->parameter);
   if ((def.flags & PF_ParamFlag_CANNOT_TIME_VARY) != 0) {
-    return scope->Broken(kCall, std::string(def.name) + " can't vary over time");
+    return call.Broken(std::string(def.name) + " can't vary over time");
   }
-  *info = AsReference<AEGP_AddKeyframesInfoH>(&scope->batches.Open({*stream, {}}));
+  *info = AsReference<AEGP_AddKeyframesInfoH>(&call->batches.Open({*stream, {}}));
   return PF_Err_NONE;
 }
 
@@ -169,24 +148,21 @@ std::string KeyframeName(const OpenBatch& batch, size_t number) {
 
 A_Err AddKeyframes(AEGP_AddKeyframesInfoH info, AEGP_LTimeMode mode, const A_Time* time,
                    A_long* key_index) {
-  constexpr const char* kCall = "AEGP_AddKeyframes";
-  CommandScope* scope = CommandScope::Current();
-  if (scope == nullptr) return PF_Err_INVALID_CALLBACK;
-  const PF_Err error = scope->EnterCall();
-  if (error != PF_Err_NONE) return error;
-  OpenBatch* batch = scope->batches.Find(info);
-  if (batch == nullptr) return scope->Broken(kCall, "the batch is not open");
+  const HostCall call("AEGP_AddKeyframes");
+  if (!call) return call.Error();
+  OpenBatch* batch = call->batches.Find(info);
+  if (batch == nullptr) return call.Broken("the batch is not open");
   const size_t number = batch->keyframes.size() + 1;
   if (time->scale == 0) {
-    return scope->Broken(kCall, KeyframeName(*batch, number) + ": the time's scale is 0");
+    return call.Broken(KeyframeName(*batch, number) + ": the time's scale is 0");
   }
   StagedKeyframe staged;
   const Layer& layer = batch->stream.effect.instance.EffectLayer();
   staged.keyframe.time = mode == AEGP_LTimeMode_CompTime ? CompToLayerTime(layer, *time) : *time;
-  staged.order = scope->stagedCount++;
+  staged.order = call->stagedCount++;
   if (number > 1 && !IsEarlier(batch->keyframes.back().keyframe.time, staged.keyframe.time)) {
-    return scope->Broken(kCall, KeyframeName(*batch, number) + ": time not behind keyframe " +
-                                    std::to_string(number - 1));
+    return call.Broken(KeyframeName(*batch, number) + ": time not behind keyframe " +
+                       std::to_string(number - 1));
   }
   *key_index = static_cast<A_long>(batch->keyframes.size());
   batch->keyframes.push_back(staged);
@@ -195,22 +171,19 @@ A_Err AddKeyframes(AEGP_AddKeyframesInfoH info, AEGP_LTimeMode mode, const A_Tim
 
 A_Err SetAddKeyframe(AEGP_AddKeyframesInfoH info, A_long key_index,
                      const AEGP_StreamValue2* value) {
-  constexpr const char* kCall = "AEGP_SetAddKeyframe";
-  CommandScope* scope = CommandScope::Current();
-  if (scope == nullptr) return PF_Err_INVALID_CALLBACK;
-  const PF_Err error = scope->EnterCall();
-  if (error != PF_Err_NONE) return error;
-  OpenBatch* batch = scope->batches.Find(info);
-  if (batch == nullptr) return scope->Broken(kCall, "the batch is not open");
+  const HostCall call("AEGP_SetAddKeyframe");
+  if (!call) return call.Error();
+  OpenBatch* batch = call->batches.Find(info);
+  if (batch == nullptr) return call.Broken("the batch is not open");
   if (key_index < 0 || static_cast<size_t>(key_index) >= batch->keyframes.size()) {
-    return scope->Broken(kCall, "there is no keyframe " + std::to_string(key_index));
+    return call.Broken("there is no keyframe " + std::to_string(key_index));
   }
-  if (scope->streams.Find(value->streamH) != &batch->stream) {
-    return scope->Broken(kCall, "the value is for another stream");
+  if (call->streams.Find(value->streamH) != &batch->stream) {
+    return call.Broken("the value is for another stream");
   }
   if (!std::isfinite(value->val.one_d)) {
     const auto number = static_cast<size_t>(key_index) + 1;
-    return scope->Broken(kCall, KeyframeName(*batch, number) + ": the value is no finite number");
+    return call.Broken(KeyframeName(*batch, number) + ": the value is no finite number");
   }
   StagedKeyframe& staged = batch->keyframes[static_cast<size_t>(key_index)];
   staged.keyframe.value = value->val.one_d;
@@ -234,15 +207,13 @@ void Commit(CommandScope& scope, const OpenBatch& batch) {
 }
 
 A_Err EndAddKeyframes(A_Boolean add, AEGP_AddKeyframesInfoH info) {
-  constexpr const char* kCall = "AEGP_EndAddKeyframes";
-  CommandScope* scope = CommandScope::Current();
-  if (scope == nullptr) return PF_Err_INVALID_CALLBACK;
-  const PF_Err error = scope->EnterCall();
-  const OpenBatch* batch = scope->batches.Find(info);
-  if (batch == nullptr) return scope->Broken(kCall, "the batch is not open");
-  if (add != 0 && error == PF_Err_NONE) Commit(*scope, *batch);
-  scope->batches.Close(batch);
-  return error;
+  const HostCall call("AEGP_EndAddKeyframes");
+  if (!call.IsWithinCommand()) return call.Error();
+  const OpenBatch* batch = call->batches.Find(info);
+  if (batch == nullptr) return call.Broken("the batch is not open");
+  if (add != 0 && call) Commit(call.Scope(), *batch);
+  call->batches.Close(batch);
+  return call.Error();
 }
 
 }  // namespace

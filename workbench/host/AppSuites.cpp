@@ -1,5 +1,6 @@
 // The suites about the host's window: parameters' looks, colours, the Info panel.
 #include "workbench/host/EffectHost.h"
+#include "workbench/host/HostCall.h"
 #include "workbench/host/SuiteRegistry.h"
 
 namespace {
@@ -9,48 +10,40 @@ constexpr PF_App_Color kInterfaceColor{0x2D2D, 0x2D2D, 0x2D2D};
 constexpr PF_App_ColorType kLastColorType = 23;
 
 PF_Err UpdateParamUi(PF_ProgPtr effect_ref, PF_ParamIndex index, const PF_ParamDef* def) {
-  constexpr const char* kCall = "PF_UpdateParamUI";
-  CommandScope* scope = CommandScope::Current();
-  if (scope == nullptr) return PF_Err_INVALID_CALLBACK;
-  const PF_Err error = scope->EnterCall(kCall, effect_ref);
-  if (error != PF_Err_NONE) return error;
-  const PF_Err refusal = scope->RefuseInRender(kCall);
+  const HostCall call("PF_UpdateParamUI", effect_ref);
+  if (!call) return call.Error();
+  const PF_Err refusal = call.RefuseInRender();
   if (refusal != PF_Err_NONE) return refusal;
-  EffectInstance* instance = scope->Instance();
-  if (instance == nullptr) return scope->Broken(kCall, "there is no instance in this command");
+  EffectInstance* instance = call->Instance();
+  if (instance == nullptr) return call.Broken("there is no instance in this command");
   if (index < 1 || static_cast<size_t>(index) >= instance->ParameterCount()) {
-    return scope->Broken(kCall, "there is no parameter " + std::to_string(index));
+    return call.Broken("there is no parameter " + std::to_string(index));
   }
   instance->uiFlags[static_cast<size_t>(index)] = def->ui_flags;
   return PF_Err_NONE;
 }
 
 PF_Err AppGetBgColor(PF_App_Color* color) {
-  CommandScope* scope = CommandScope::Current();
-  if (scope == nullptr) return PF_Err_INVALID_CALLBACK;
-  const PF_Err error = scope->EnterCall();
-  if (error == PF_Err_NONE) *color = kInterfaceColor;
-  return error;
+  const HostCall call("PF_AppGetBgColor");
+  if (!call) return call.Error();
+  *color = kInterfaceColor;
+  return PF_Err_NONE;
 }
 
 PF_Err AppGetColor(PF_App_ColorType type, PF_App_Color* color) {
-  CommandScope* scope = CommandScope::Current();
-  if (scope == nullptr) return PF_Err_INVALID_CALLBACK;
-  const PF_Err error = scope->EnterCall();
-  if (error != PF_Err_NONE) return error;
+  const HostCall call("PF_AppGetColor");
+  if (!call) return call.Error();
   if (type < 0 || type > kLastColorType) {
-    return scope->Broken("PF_AppGetColor", "there is no colour " + std::to_string(type));
+    return call.Broken("there is no colour " + std::to_string(type));
   }
   *color = kInterfaceColor;
   return PF_Err_NONE;
 }
 
 PF_Err InfoDrawText(const A_char* line1, const A_char* /*line2*/) {
-  CommandScope* scope = CommandScope::Current();
-  if (scope == nullptr) return PF_Err_INVALID_CALLBACK;
-  const PF_Err error = scope->EnterCall();
-  if (error != PF_Err_NONE) return error;
-  if (line1 != nullptr && scope->Host().onInfoText) scope->Host().onInfoText(line1);
+  const HostCall call("PF_InfoDrawText");
+  if (!call) return call.Error();
+  if (line1 != nullptr && call->Host().onInfoText) call->Host().onInfoText(line1);
   return PF_Err_NONE;
 }
 

@@ -1,9 +1,9 @@
 // Cuts windows out of a layer's sound.
 #include "workbench/host/AudioCallbacks.h"
 
-#include "workbench/host/CommandScope.h"
 #include "workbench/host/EffectInstance.h"
 #include "workbench/host/FloorDivide.h"
+#include "workbench/host/HostCall.h"
 
 namespace {
 
@@ -36,23 +36,20 @@ PF_Err CheckoutLayerAudio(PF_ProgPtr effect_ref, PF_ParamIndex index, A_long sta
                           A_long duration, A_u_long time_scale, PF_UFixed rate,
                           A_long bytes_per_sample, A_long num_channels, A_long fmt_signed,
                           PF_LayerAudio* audio) {
-  constexpr const char* kCall = "checkout_layer_audio";
-  CommandScope* scope = CommandScope::Current();
-  if (scope == nullptr) return PF_Err_INVALID_CALLBACK;
-  const PF_Err error = scope->EnterCall(kCall, effect_ref);
-  if (error != PF_Err_NONE) return error;
+  const HostCall call("checkout_layer_audio", effect_ref);
+  if (!call) return call.Error();
   *audio = nullptr;
-  const EffectInstance* instance = scope->Instance();
+  const EffectInstance* instance = call->Instance();
   if (!IsLayerParameter(instance, index)) {
-    return scope->Broken(kCall, "parameter " + std::to_string(index) + " is no layer parameter");
+    return call.Broken("parameter " + std::to_string(index) + " is no layer parameter");
   }
   if (rate != kClipRate || bytes_per_sample != kBytesPerSample || num_channels != kClipChannels ||
       fmt_signed == 0) {
-    return scope->Broken(kCall, "this host has 16-bit signed stereo at 44100 Hz only");
+    return call.Broken("this host has 16-bit signed stereo at 44100 Hz only");
   }
-  if (time_scale == 0) return scope->Broken(kCall, "the time scale is 0");
+  if (time_scale == 0) return call.Broken("the time scale is 0");
   const int64_t frames = FrameAt(duration, time_scale);
-  if (frames < 0) return scope->Broken(kCall, "the duration is negative");
+  if (frames < 0) return call.Broken("the duration is negative");
   if (frames > kLargestWindowFrames) return PF_Err_OUT_OF_MEMORY;
   const AudioClip* sound = ChosenSound(*instance, index);
   if (sound == nullptr) return PF_Err_NONE;
@@ -61,33 +58,28 @@ PF_Err CheckoutLayerAudio(PF_ProgPtr effect_ref, PF_ParamIndex index, A_long sta
   checkout.samples.resize(static_cast<size_t>(frames) * kClipChannels);
   sound->CopyFrames(FrameAt(start_time, time_scale), static_cast<int32_t>(frames),
                     checkout.samples.data());
-  void* reference = &scope->audio.Open(std::move(checkout));
+  void* reference = &call->audio.Open(std::move(checkout));
   *audio = static_cast<PF_LayerAudio>(reference);
   return PF_Err_NONE;
 }
 
 PF_Err CheckinLayerAudio(PF_ProgPtr effect_ref, PF_LayerAudio audio) {
-  constexpr const char* kCall = "checkin_layer_audio";
-  CommandScope* scope = CommandScope::Current();
-  if (scope == nullptr) return PF_Err_INVALID_CALLBACK;
-  const PF_Err error = scope->EnterCall(kCall, effect_ref);
-  const AudioCheckout* checkout = scope->audio.Find(audio);
-  if (checkout == nullptr) return scope->Broken(kCall, "this audio is not checked out");
+  const HostCall call("checkin_layer_audio", effect_ref);
+  if (!call.IsWithinCommand()) return call.Error();
+  const AudioCheckout* checkout = call->audio.Find(audio);
+  if (checkout == nullptr) return call.Broken("this audio is not checked out");
   // Letting go takes effect even where the host then answers with an error.
-  scope->audio.Close(checkout);
-  return error;
+  call->audio.Close(checkout);
+  return call.Error();
 }
 
 PF_Err GetAudioData(PF_ProgPtr effect_ref, PF_LayerAudio audio, PF_SndSamplePtr* data0,
                     A_long* num_samples0, PF_UFixed* rate0, A_long* bytes_per_sample0,
                     A_long* num_channels0, A_long* fmt_signed0) {
-  constexpr const char* kCall = "get_audio_data";
-  CommandScope* scope = CommandScope::Current();
-  if (scope == nullptr) return PF_Err_INVALID_CALLBACK;
-  const PF_Err error = scope->EnterCall(kCall, effect_ref);
-  if (error != PF_Err_NONE) return error;
-  AudioCheckout* checkout = scope->audio.Find(audio);
-  if (checkout == nullptr) return scope->Broken(kCall, "this audio is not checked out");
+  const HostCall call("get_audio_data", effect_ref);
+  if (!call) return call.Error();
+  AudioCheckout* checkout = call->audio.Find(audio);
+  if (checkout == nullptr) return call.Broken("this audio is not checked out");
   if (data0 != nullptr) *data0 = checkout->samples.data();
   if (num_samples0 != nullptr) {
     *num_samples0 = static_cast<A_long>(checkout->samples.size() / kClipChannels);

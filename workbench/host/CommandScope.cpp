@@ -39,13 +39,6 @@ PF_Err CommandScope::EnterCall() {
   return fault.error;
 }
 
-PF_Err CommandScope::EnterCall(const char* call, PF_ProgPtr effectRef) {
-  const PF_Err error = EnterCall();
-  if (error != PF_Err_NONE) return error;
-  return effectRef == EffectRef() ? PF_Err_NONE
-                                  : Broken(call, "effect_ref is not the one of this call");
-}
-
 PF_Err CommandScope::Broken(const std::string& call, const std::string& rule) {
   brokenRules.push_back(call + ": " + rule);
   return PF_Err_BAD_CALLBACK_PARAM;

@@ -96,9 +96,6 @@ class CommandScope {
   // Counts a host call. Returns the error that it is to fail with, 0 where it is to do its work.
   PF_Err EnterCall();
 
-  // The same for a call that names its effect: a foreign reference breaks a rule and fails.
-  PF_Err EnterCall(const char* call, PF_ProgPtr effectRef);
-
   int64_t CallCount() const { return callCount; }
   bool FaultStruck() const { return faultStruck; }
 

@@ -6,6 +6,7 @@
 #include <cstring>
 
 #include "workbench/host/EffectHost.h"
+#include "workbench/host/HostCall.h"
 #include "workbench/host/HostCallbacks.h"
 
 namespace {
@@ -79,32 +80,26 @@ void FillPixels(std::span<PF_Pixel> pixels, const PF_Pixel* color) {
 
 PF_Err Fill(PF_ProgPtr effect_ref, const PF_Pixel* color, const PF_Rect* dst_rect,
             PF_EffectWorld* world) {
-  constexpr const char* kCall = "fill";
-  CommandScope* scope = CommandScope::Current();
-  if (scope == nullptr) return PF_Err_INVALID_CALLBACK;
-  const PF_Err error = scope->EnterCall(kCall, effect_ref);
-  if (error != PF_Err_NONE) return error;
-  if (scope->output == nullptr || world != scope->output->Record()) {
-    return scope->Broken(kCall, "the world is not one of the host's");
+  const HostCall call("fill", effect_ref);
+  if (!call) return call.Error();
+  if (call->output == nullptr || world != call->output->Record()) {
+    return call.Broken("the world is not one of the host's");
   }
-  const PF_Rect area = Clipped(dst_rect, *scope->output);
+  const PF_Rect area = Clipped(dst_rect, *call->output);
   if (area.right <= area.left) return PF_Err_NONE;
   const auto left = static_cast<size_t>(area.left);
   const auto width = static_cast<size_t>(area.right) - left;
   for (A_long y = area.top; y < area.bottom; ++y) {
-    FillPixels(scope->output->Row(y).subspan(left, width), color);
+    FillPixels(call->output->Row(y).subspan(left, width), color);
   }
   return PF_Err_NONE;
 }
 
 // The stand-in has no window of its own.
 PF_Err GetPlatformData(PF_ProgPtr effect_ref, PF_PlatDataID which, void* data) {
-  constexpr const char* kCall = "get_platform_data";
-  CommandScope* scope = CommandScope::Current();
-  if (scope == nullptr) return PF_Err_INVALID_CALLBACK;
-  const PF_Err error = scope->EnterCall(kCall, effect_ref);
-  if (error != PF_Err_NONE) return error;
-  if (which != PF_PlatData_MAIN_WND) return scope->Broken(kCall, "only the main window is known");
+  const HostCall call("get_platform_data", effect_ref);
+  if (!call) return call.Error();
+  if (which != PF_PlatData_MAIN_WND) return call.Broken("only the main window is known");
   *static_cast<void**>(data) = nullptr;
   return PF_Err_NONE;
 }
