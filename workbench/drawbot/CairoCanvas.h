@@ -1,0 +1,28 @@
+// A picture that drawing calls are painted into, by cairo.
+#pragma once
+
+#include <memory>
+
+#include "workbench/drawbot/Canvas.h"
+
+// Which part of the surface the picture shows, in surface coordinates, and at what size.
+//
+// width, height   0 and more
+// zoom            pixels of the picture for each surface coordinate, at least 1
+struct CanvasArea {
+  int32_t left = 0;
+  int32_t top = 0;
+  int32_t width = 0;
+  int32_t height = 0;
+  int32_t zoom = 1;
+};
+
+class PictureCanvas : public Canvas {
+ public:
+  // What has been drawn so far. Throws JobFailure where cairo has given up.
+  virtual Picture Copy() const = 0;
+};
+
+// A picture full of `ground`. Throws JobFailure where it would be too large: more than 32767 pixels
+// wide or high, or more than memory holds.
+std::unique_ptr<PictureCanvas> NewCairoCanvas(const CanvasArea& area, PF_Pixel8 ground);
