@@ -13,6 +13,7 @@
 
 #include "AE_EffectUI.h"
 #include "workbench/host/EffectHost.h"
+#include "workbench/host/Pane.h"
 #include "workbench/host/ParameterText.h"
 
 constexpr uint64_t kRecordSize = 3112;
@@ -78,7 +79,9 @@ class Instance {
     lastEvent.u.do_click.last_time = released ? 1 : 0;
     lastEvent.effect_win.index = kCommandsRowIndex;
     lastEvent.effect_win.current_frame = frame;
-    return Send(PF_Cmd_EVENT, &lastEvent, fault);
+    Pane pane(frame);
+    lastEvent.contextH = pane.Context();
+    return host.SendEvent(*effect, lastEvent, {&pane}, fault);
   }
 
   CommandResult PressAndRelease(Fault fault = {}) {

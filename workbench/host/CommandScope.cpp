@@ -1,6 +1,7 @@
 // The ledger of one command.
 #include "workbench/host/CommandScope.h"
 
+#include "workbench/drawbot/Drawing.h"
 #include "workbench/host/EffectHost.h"
 
 namespace {
@@ -34,9 +35,15 @@ PF_ProgPtr CommandScope::EffectRef() const {
 
 PF_Err CommandScope::EnterCall() {
   ++callCount;
-  if (callCount != fault.atCall) return PF_Err_NONE;
+  if (callCount != fault.atCall || fault.error == PF_Err_NONE) return PF_Err_NONE;
   faultStruck = true;
   return fault.error;
+}
+
+bool CommandScope::GivesNull() {
+  if (callCount != fault.atCall) return false;
+  faultStruck = true;
+  return true;
 }
 
 PF_Err CommandScope::Broken(const std::string& call, const std::string& rule) {
@@ -50,6 +57,14 @@ PF_Err CommandScope::RefuseInRender(const std::string& call) {
 
 void CommandScope::CheckNoneOpen(size_t count, const char* what) {
   if (count > 0) Broken(CommandName(cmd), std::to_string(count) + " " + what + " at the end");
+}
+
+void CommandScope::CheckDrawing() {
+  if (drawing == nullptr) return;
+  for (const std::string& objects : drawing->objects.LeftOver()) {
+    Broken(CommandName(cmd), objects + " not released at the end");
+  }
+  CheckNoneOpen(drawing->PushedCount(), "pushed state(s) of the surface not popped");
 }
 
 void CommandScope::CheckAllIsGivenBack() {
@@ -66,6 +81,7 @@ void CommandScope::CheckAllIsGivenBack() {
                                    " is acquired " + std::to_string(count) + " time(s) at the end");
     }
   }
+  CheckDrawing();
   CheckNoneOpen(audio.Count(), "audio checkout(s) not checked in");
   CheckNoneOpen(batches.Count(), "batch(es) of keyframes not ended");
   CheckNoneOpen(streams.Count(), "stream(s) not disposed of");

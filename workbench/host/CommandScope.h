@@ -12,13 +12,16 @@
 #include "AE_GeneralTypes.h"
 #include "workbench/host/KeyframeStream.h"
 
+class Drawing;
 class EffectHost;
 class EffectInstance;
 class OutputWorld;
+class Pane;
 
 // Makes the n-th host call of a command fail.
 struct Fault {
   int64_t atCall = 0;  // counted from 1; 0: no call fails
+  // 0: a drawing call succeeds, but what it hands out is null; other calls do their work
   PF_Err error = PF_Err_BAD_CALLBACK_PARAM;
 };
 
@@ -96,6 +99,9 @@ class CommandScope {
   // Counts a host call. Returns the error that it is to fail with, 0 where it is to do its work.
   PF_Err EnterCall();
 
+  // Whether the call that was entered last is planned to hand out null.
+  bool GivesNull();
+
   int64_t CallCount() const { return callCount; }
   bool FaultStruck() const { return faultStruck; }
 
@@ -118,8 +124,11 @@ class CommandScope {
   OpenObjects<OpenBatch> batches;
   int64_t stagedCount = 0;
   OutputWorld* output = nullptr;  // what a render draws into
+  Pane* pane = nullptr;           // where an event comes from
+  Drawing* drawing = nullptr;     // what a draw event draws on
 
  private:
+  void CheckDrawing();
   void CheckNoneOpen(size_t count, const char* what);
 
   EffectHost& host;

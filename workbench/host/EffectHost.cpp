@@ -12,7 +12,7 @@ namespace {
 // Whether a command may leave a new record, or none, behind.
 bool ChangesRecord(PF_Cmd cmd) {
   return cmd == PF_Cmd_SEQUENCE_SETUP || cmd == PF_Cmd_SEQUENCE_RESETUP ||
-         cmd == PF_Cmd_SEQUENCE_FLATTEN || cmd == PF_Cmd_SEQUENCE_SETDOWN;
+         cmd == PF_Cmd_SEQUENCE_FLATTEN || cmd == PF_Cmd_SEQUENCE_SETDOWN || cmd == PF_Cmd_EVENT;
 }
 
 std::string MessageIn(const PF_OutData& out_data, PF_Cmd cmd, CommandScope& scope) {
@@ -81,6 +81,15 @@ CommandResult EffectHost::Send(PF_Cmd cmd, EffectInstance* instance, void* extra
   CommandScope scope(*this, instance, cmd, fault);
   if (instance != nullptr) instance->written.clear();
   return SendFrom(scope, extra, nullptr);
+}
+
+CommandResult EffectHost::SendEvent(EffectInstance& instance, PF_EventExtra& event,
+                                    const EventPlace& place, Fault fault) {
+  CommandScope scope(*this, &instance, PF_Cmd_EVENT, fault);
+  scope.pane = place.pane;
+  scope.drawing = place.drawing;
+  instance.written.clear();
+  return SendFrom(scope, &event, nullptr);
 }
 
 CommandResult EffectHost::Render(EffectInstance& instance, const RenderRequest& request,

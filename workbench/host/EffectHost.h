@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "AE_Effect.h"
+#include "AE_EffectUI.h"
 #include "workbench/host/CommandScope.h"
 #include "workbench/host/EffectInstance.h"
 #include "workbench/host/MovableHandles.h"
@@ -23,6 +24,15 @@ struct HostProfile {
   A_long applId = kAfterEffectsId;
   bool hasBasicSuite = true;
   std::set<std::string> missingSuites = {};  // by name
+  // Of the interface, and so of its panels: a dark grey, as hosts of this kind have.
+  PF_App_Color interfaceColor{0x2D2D, 0x2D2D, 0x2D2D};
+  bool drawsText = true;
+};
+
+// What an event finds of the host's window; both outlive it.
+struct EventPlace {
+  Pane* pane = nullptr;
+  Drawing* drawing = nullptr;  // of PF_Event_DRAW; null in any other
 };
 
 // What came back from one command.
@@ -49,10 +59,13 @@ class EffectHost {
   // Calls the plug-in with one command.
   //
   // instance   the effect that the command is for; null for the commands of the library
-  // extra      a PF_EventExtra for PF_Cmd_EVENT
   // Handles that come back are taken over: global data and an instance's record.
   CommandResult Send(PF_Cmd cmd, EffectInstance* instance = nullptr, void* extra = nullptr,
                      Fault fault = {});
+
+  // Calls the plug-in with PF_Cmd_EVENT. `event` is left as the plug-in leaves it.
+  CommandResult SendEvent(EffectInstance& instance, PF_EventExtra& event, const EventPlace& place,
+                          Fault fault = {});
 
   // Calls the plug-in with PF_Cmd_RENDER. May run on several threads at once, each with a world of
   // its own, while no other command runs.

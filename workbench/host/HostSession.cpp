@@ -16,9 +16,12 @@ void ThrowIfBroken(const std::vector<std::string>& broken) {
   throw JobFailure(text);
 }
 
+// The rows above it in the pane.
+constexpr A_long kRowTop = 40;
+
 // The Apply button's middle: it begins at the middle of the row and is 50 wide.
-PF_Point ApplyPoint(const PF_ParamDef& row) {
-  return {row.ui_width / 2 + 25, row.ui_height / 2};
+PF_Point ApplyPoint(const PF_UnionableRect& frame) {
+  return {(frame.right - frame.left) / 2 + 25, (frame.bottom - frame.top) / 2};
 }
 
 size_t FindPanelRow(const ParameterList& parameters, const char* name) {
@@ -34,7 +37,6 @@ size_t FindPanelRow(const ParameterList& parameters, const char* name) {
 
 HostSession::HostSession(const std::filesystem::path& library, HostProfile profile)
     : host(library, std::move(profile)) {
-  context.w_type = PF_Window_EFFECT;
   Demand(PF_Cmd_GLOBAL_SETUP);
   isSetUp = true;
   Demand(PF_Cmd_PARAMS_SETUP);
@@ -88,35 +90,28 @@ void HostSession::UserChanged(EffectInstance& instance, size_t parameter) {
   }
 }
 
-PF_EventExtra HostSession::PointerEvent(EffectInstance& instance, size_t row, PF_EventType type,
-                                        PF_Point point) {
-  const PF_ParamDef& def = instance.Value(row);
-  PF_EventExtra extra{};
-  extra.contextH = &contextAddress;
-  extra.e_type = type;
-  extra.u.do_click.screen_point = point;
-  extra.u.do_click.num_clicks = 1;
-  extra.effect_win.index = static_cast<PF_ParamIndex>(row);
-  extra.effect_win.area = PF_EA_CONTROL;
-  extra.effect_win.current_frame = {0, 0, def.ui_width, def.ui_height};
-  return extra;
+std::unique_ptr<PanelRow> HostSession::OpenRow(EffectInstance& instance, const char* name) {
+  const size_t index = FindPanelRow(host.Parameters(), name);
+  const PF_ParamDef& def = instance.Value(index);
+  const PF_UnionableRect frame{0, kRowTop, def.ui_width, kRowTop + def.ui_height};
+  return std::make_unique<PanelRow>(
+      host, instance, index, frame,
+      [this](const CommandResult& result) { Judge(PF_Cmd_EVENT, result); });
 }
 
 void HostSession::PressApply(EffectInstance& instance) {
-  const size_t row = FindPanelRow(host.Parameters(), kApplyRow);
-  const PF_Point point = ApplyPoint(instance.Value(row));
-  PF_EventExtra press = PointerEvent(instance, row, PF_Event_DO_CLICK, point);
-  Demand(PF_Cmd_EVENT, &instance, &press);
-  if (press.u.do_click.send_drag == 0) {
+  const std::unique_ptr<PanelRow> row = OpenRow(instance, kApplyRow);
+  const PF_Point point = ApplyPoint(row->pane.Frame());
+  row->Click(point);
+  if (!row->IsTracking()) {
     throw JobFailure(
         "The Apply button is disabled, since no range is active. Turn one on, such as with "
         "--set \"Range 1/Active=on\".");
   }
-  PF_EventExtra release = PointerEvent(instance, row, PF_Event_DRAG, point);
-  release.u.do_click.last_time = 1;
   const size_t told = messages.size();
-  Demand(PF_Cmd_EVENT, &instance, &release);
+  row->Release(point);
   if (messages.size() > told) throw JobFailure(messages.back());
+  instance.written = row->lastRun;
 }
 
 void HostSession::RenderFrame(EffectInstance& instance, int64_t frame, OutputWorld& world,

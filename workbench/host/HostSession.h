@@ -10,8 +10,8 @@
 #include <string>
 #include <vector>
 
-#include "AE_EffectUI.h"
 #include "workbench/host/EffectHost.h"
+#include "workbench/host/PanelRow.h"
 
 // Every operation throws JobFailure where the plug-in fails or breaks a rule of the host. What the
 // plug-in has to tell without failing is kept in Messages().
@@ -34,6 +34,10 @@ class HostSession {
 
   // Tells the plug-in that the user has changed a value, which stands in the instance already.
   void UserChanged(EffectInstance& instance, size_t parameter);
+
+  // The row of that name which the plug-in draws itself, in the size that it has declared. Stands
+  // at the left of its pane, some way down, and has no canvas yet. Instance and session outlive it.
+  std::unique_ptr<PanelRow> OpenRow(EffectInstance& instance, const char* name);
 
   // Presses the Apply button and releases it. The instance's `written` holds what came of it.
   void PressApply(EffectInstance& instance);
@@ -65,14 +69,9 @@ class HostSession {
   // Throws where the command failed, keeps what the plug-in has to tell otherwise.
   void Judge(PF_Cmd cmd, const CommandResult& result);
 
-  PF_EventExtra PointerEvent(EffectInstance& instance, size_t row, PF_EventType type,
-                             PF_Point point);
-
   EffectHost host;
   std::vector<std::unique_ptr<EffectInstance>> instances;
   std::mutex messagesMutex;
   std::vector<std::string> messages;
-  PF_Context context{};
-  PF_Context* contextAddress = &context;
   bool isSetUp = false;
 };

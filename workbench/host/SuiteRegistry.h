@@ -5,6 +5,7 @@
 #include "AE_EffectCBSuites.h"
 #include "AE_EffectSuites.h"
 #include "AE_GeneralPlug.h"
+#include "DrawbotSuite.h"
 #include "SPBasic.h"
 
 // Lives as long as the program.
@@ -17,6 +18,11 @@ const void* FindSuite(const char* name, int version);
 const PF_ParamUtilsSuite2& ParamUtilsSuite();
 const PFAppSuite6& AppSuite();
 const PF_AdvAppSuite1& AdvAppSuite();
+const PF_EffectCustomUISuite1& CustomUISuite();
+const DRAWBOT_DrawbotSuite1& DrawSuite();
+const DRAWBOT_SupplierSuite1& SupplierSuite();
+const DRAWBOT_SurfaceSuite2& SurfaceSuite();
+const DRAWBOT_PathSuite1& PathSuite();
 const PF_WorldSuite2& WorldSuite();
 const PF_ColorParamSuite1& ColorParamSuite();
 const AEGP_PFInterfaceSuite1& PFInterfaceSuite();
