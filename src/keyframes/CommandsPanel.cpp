@@ -1,45 +1,36 @@
-// Press, drag and release on the Apply button.
+// Press, drag and release on the Apply button, and how the row then looks.
 #include "keyframes/CommandsPanel.h"
 
-#include <cstdint>
-
 #include "host/HandleLock.h"
+#include "host/PanelPrimitives.h"
+#include "host/PluginGui_AE_Impl.h"
+#include "host/PluginHost_AE_Impl.h"
 #include "host/ReturnMessage.h"
 #include "keyframes/ApplyKeyframes.h"
+#include "keyframes/CommandsRowLayout.h"
+#include "keyframes/CommandsRowPicture.h"
+#include "shell/ParameterTable.h"
+#include "shell/ParameterValue.h"
 #include "shell/SequenceRecord.h"
 
 namespace {
 
-// Where the button's border runs in the row: a point counts as inside when it is past the left and
-// top and before the right and bottom. 64 bits, since the host's frames and points may be anything.
-struct ButtonBounds {
-  int64_t left, top, right, bottom;
-};
-
-//            current_frame.left              current_frame.right
-//                   |             rowMid            |
-//   x counts from 0, whatever the frame's left:     | Apply  50 |
-ButtonBounds ApplyButtonBounds(const PF_EventExtra& extra) {
-  constexpr int64_t kWidth = 50;
-  constexpr int64_t kHeight = 13;
-  const PF_UnionableRect& frame = extra.effect_win.current_frame;
-  const int64_t rowMid = (static_cast<int64_t>(frame.right) - frame.left) / 2;
-  const int64_t top = static_cast<int64_t>(frame.top) + 1;
-  return {rowMid, top, rowMid + kWidth, top + kHeight};
-}
-
-bool IsInColumns(const ButtonBounds& button, const PF_Point& point) {
+bool IsInColumns(const RowRect& button, const PF_Point& point) {
   return point.h > button.left && point.h < button.right;
 }
 
-bool IsInside(const ButtonBounds& button, const PF_Point& point) {
+bool IsInside(const RowRect& button, const PF_Point& point) {
   return IsInColumns(button, point) && point.v > button.top && point.v < button.bottom;
+}
+
+RowRect ApplyButtonOf(const PF_EventExtra& extra) {
+  return CommandsRowLayout(extra.effect_win.current_frame).ApplyButton();
 }
 
 // The height of a press plays no part; a release has to fall inside the button's rows as well.
 void Press(SequenceRecord& record, PF_EventExtra& extra) {
   PF_DoClickEventInfo& click = extra.u.do_click;
-  const bool pressed = IsInColumns(ApplyButtonBounds(extra), click.screen_point) &&
+  const bool pressed = IsInColumns(ApplyButtonOf(extra), click.screen_point) &&
                        record.applyButtonState != kApplyButtonDisabled;
   record.applyTracking = pressed ? 1 : 0;
   if (!pressed) return;
@@ -74,7 +65,7 @@ bool Drag(PF_InData* in_data, PF_OutData* out_data, PF_ParamDef** params, Sequen
   if (record.applyTracking != 1) return false;
   const PF_DoClickEventInfo& drag = extra.u.do_click;
   const bool released = drag.last_time != 0;
-  if (!IsInside(ApplyButtonBounds(extra), drag.screen_point)) {
+  if (!IsInside(ApplyButtonOf(extra), drag.screen_point)) {
     if (released) record.applyTracking = 0;
     return ShowButton(record, kApplyButtonNormal);
   }
@@ -86,22 +77,86 @@ bool Drag(PF_InData* in_data, PF_OutData* out_data, PF_ParamDef** params, Sequen
   return false;
 }
 
+// While a press is tracked the button looks as the pointer left it; else it follows the ranges.
+CommandsRowLook Look(SequenceRecord& record, PF_ParamDef** params) {
+  if (record.applyTracking == 0) {
+    record.applyButtonState = AnyRangeActive(params) ? kApplyButtonNormal : kApplyButtonDisabled;
+    record.applySecondState = record.applyButtonState;
+  }
+  CommandsRowLook look;
+  look.applyButtonState = record.applyButtonState;
+  for (int32_t range = 0; range < kRangeCount; ++range) {
+    look.active[static_cast<size_t>(range)] = IsRangeActive(params, range);
+  }
+  return look;
+}
+
+// The row's record, and a text for the user where there is none.
+class RowRecord {
+ public:
+  RowRecord(PF_InData* in_data, PF_OutData* out_data) : record(in_data, in_data->sequence_data) {
+    if (!record) {
+      ShowReturnMessage(out_data,
+                        "Delvior could not reach its record, so the Apply button did nothing.");
+    }
+  }
+
+  explicit operator bool() const { return static_cast<bool>(record); }
+  PF_Err Error() const { return record.Error(); }
+  SequenceRecord& operator*() const { return *record; }
+
+ private:
+  LockedRecord<SequenceRecord> record;
+};
+
+PF_Err Draw(PF_InData* in_data, PF_OutData* out_data, PF_ParamDef** params, PF_EventExtra& extra) {
+  PluginHost_AE_Impl host(in_data, out_data, params, nullptr);
+  PluginGui_AE_Impl gui(&host, &extra);
+  const PanelDrawing drawing(&gui);
+  extra.evt_out_flags = PF_EO_NONE;
+  const RowRecord record(in_data, out_data);
+  if (!record) return record.Error();
+  DrawCommandsRow(extra.effect_win.current_frame, Look(*record, params));
+  extra.evt_out_flags = PF_EO_HANDLED_EVENT;
+  return PF_Err_NONE;
+}
+
+PF_Err PressOrDrag(PF_InData* in_data, PF_OutData* out_data, PF_ParamDef** params,
+                   PF_EventExtra& extra) {
+  const RowRecord record(in_data, out_data);
+  if (!record) return record.Error();
+  if (extra.e_type == PF_Event_DO_CLICK) {
+    Press(*record, extra);
+  } else if (Drag(in_data, out_data, params, *record, extra)) {
+    out_data->out_flags |= PF_OutFlag_REFRESH_UI;
+  }
+  return PF_Err_NONE;
+}
+
+// Only a draw event shows what changed, so the host is asked for one, at once.
+void RequestRedraw(PF_InData* in_data, PF_OutData* out_data, PF_ParamDef** params,
+                   PF_EventExtra& extra) {
+  PluginHost_AE_Impl host(in_data, out_data, params, nullptr);
+  PluginGui_AE_Impl gui(&host, &extra);
+  gui.InvalidatePanel();
+  extra.evt_out_flags |= PF_EO_UPDATE_NOW;
+}
+
 }  // namespace
 
 PF_Err HandleCommandsEvent(PF_InData* in_data, PF_OutData* out_data, PF_ParamDef** params,
                            PF_EventExtra* extra) {
-  if (extra->e_type != PF_Event_DO_CLICK && extra->e_type != PF_Event_DRAG) return PF_Err_NONE;
-  extra->evt_out_flags = PF_EO_HANDLED_EVENT;
-  const LockedRecord<SequenceRecord> record(in_data, in_data->sequence_data);
-  if (!record) {
-    ShowReturnMessage(out_data,
-                      "Delvior could not reach its record, so the Apply button did nothing.");
-    return record.Error();
+  switch (extra->e_type) {
+    case PF_Event_DRAW:
+      return Draw(in_data, out_data, params, *extra);
+    case PF_Event_DO_CLICK:
+    case PF_Event_DRAG: {
+      extra->evt_out_flags = PF_EO_HANDLED_EVENT;
+      const PF_Err error = PressOrDrag(in_data, out_data, params, *extra);
+      RequestRedraw(in_data, out_data, params, *extra);
+      return error;
+    }
+    default:
+      return PF_Err_NONE;
   }
-  if (extra->e_type == PF_Event_DO_CLICK) {
-    Press(*record, *extra);
-  } else if (Drag(in_data, out_data, params, *record, *extra)) {
-    out_data->out_flags |= PF_OutFlag_REFRESH_UI;
-  }
-  return PF_Err_NONE;
 }

@@ -10,7 +10,8 @@ using SurfaceHandle = void*;
 struct BitmapMemory {
   BitmapHandle bitmap = nullptr;
   SurfaceHandle surface = nullptr;
-  uint8_t* pixels = nullptr;  // top row first, width x 4 bytes a row, all 0; null if there's no memory
+  uint8_t* pixels =
+      nullptr;  // top row first, width x 4 bytes a row, all 0; null if there's no memory
 };
 
 // width and height   at least 1

@@ -4,6 +4,7 @@
 #include <exception>
 #include <new>
 
+#include "host/DRAWBOT_Exception.h"
 #include "host/ReturnMessage.h"
 
 namespace {
@@ -24,6 +25,8 @@ PF_Err ReportThrownFailure(PF_OutData* out_data) noexcept {
   } catch (const char* text) {
     return Report(out_data, text != nullptr ? text : "Delvior stopped without giving a reason.",
                   PF_Err_INTERNAL_STRUCT_DAMAGED);
+  } catch (const DRAWBOT_Exception& failure) {
+    return Report(out_data, "The host could not draw Delvior's panel.", failure.code);
   } catch (const std::bad_alloc&) {
     return PF_Err_OUT_OF_MEMORY;
   } catch (const std::exception& failure) {
