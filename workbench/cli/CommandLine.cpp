@@ -8,6 +8,8 @@
 #include "workbench/Failure.h"
 #include "workbench/cli/ApplyCommand.h"
 #include "workbench/cli/Options.h"
+#include "workbench/cli/PanelCommand.h"
+#include "workbench/cli/PanelOptions.h"
 #include "workbench/cli/ParamsCommand.h"
 #include "workbench/cli/RenderCommand.h"
 #include "workbench/cli/RenderOptions.h"
@@ -96,6 +98,24 @@ void AddRenderOptions(CLI::App& command, RenderOptions& options) {
       "How many frames the plug-in is sent at once; default 1");
 }
 
+void AddPanelOptions(CLI::App& command, PanelOptions& options) {
+  const auto add = [&](const char* name, auto parse, auto& target, const char* help) {
+    command.add_option_function<std::string>(
+        name, [parse, &target](const std::string& text) { target = parse(text); }, help);
+  };
+  command.add_option("AUDIO", options.audio, "Any audio or video file; default: silence");
+  command.add_option("--events", options.events, "What the user does, one event a line");
+  command.add_option("--out", options.out, "The row's picture, a .png file")->required();
+  add("--row", ParseRow, options.row, "color-map or commands; default color-map");
+  add("--zoom", ParseZoom, options.zoom, "Pixels for each of the row, 1 to 8; default 1");
+  add("--panel-color", ParsePanelColor, options.color,
+      "R,G,B of the host's panel, each 0 to 255; default 45,45,45");
+  command.add_option("--keyframes", options.keyframes,
+                     "What the last run wrote: a .csv, .json or .txt file");
+  command.add_option("--record-calls", options.recordCalls,
+                     "The drawing calls of the last draw, one a line");
+}
+
 int RunParams(const StageOptions& options, bool asJson) {
   Stage stage(options, "Solid", nullptr);
   const std::string text = asJson ? ParameterJson(stage) : ParameterLines(stage);
@@ -128,10 +148,14 @@ int RunCommandLine(int argc, const char* const* argv) {
   RenderOptions renderOptions;
   CLI::App* render = app.add_subcommand("render", "Renders the graph to pictures or a movie");
   AddRenderOptions(*render, renderOptions);
+  PanelOptions panelOptions;
+  CLI::App* panel = app.add_subcommand("panel", "Shows a row that the plug-in draws itself");
+  AddPanelOptions(*panel, panelOptions);
   CLI::App* params = app.add_subcommand("params", "Lists the parameters");
   params->add_flag("--json", asJson, "As JSON");
   CLI::App* about = app.add_subcommand("about", "Shows the About text");
-  for (CLI::App* command : {apply, render, params, about}) AddStageOptions(*command, stageOptions);
+  for (CLI::App* command : {apply, render, panel, params, about})
+    AddStageOptions(*command, stageOptions);
 
   try {
     app.parse(argc, argv);
@@ -141,6 +165,7 @@ int RunCommandLine(int argc, const char* const* argv) {
   }
   if (apply->parsed()) return RunApply(stageOptions, applyOptions);
   if (render->parsed()) return RunRender(stageOptions, renderOptions);
+  if (panel->parsed()) return RunPanel(stageOptions, panelOptions);
   if (params->parsed()) return RunParams(stageOptions, asJson);
   return RunAbout(stageOptions);
 }

@@ -56,10 +56,18 @@ Stage::Stage(StageOptions stageOptions, const std::string& layerName,
   instance = &session.AddInstance(layer, project ? project->record : std::nullopt);
   instance->chosenLayers[kAudioLayerParameter] = &layer;
   if (project) RestoreParameters(*project, options.project, session, *instance);
-  ApplySettings();
+  ApplySettings(*instance);
 }
 
-void Stage::ApplySettings() {
+EffectInstance& Stage::AddInstance() {
+  Layer& layer = instance->EffectLayer();
+  EffectInstance& added = session.AddInstance(layer);
+  added.chosenLayers[kAudioLayerParameter] = &layer;
+  ApplySettings(added);
+  return added;
+}
+
+void Stage::ApplySettings(EffectInstance& target) {
   const ParameterList& parameters = session.Parameters();
   for (const std::string& setting : options.settings) {
     const size_t equals = setting.find('=');
@@ -68,8 +76,8 @@ void Stage::ApplySettings() {
                          "\".");
     }
     const size_t index = parameters.Find(setting.substr(0, equals));
-    SetFromText(*instance, parameters, index, setting.substr(equals + 1));
-    session.UserChanged(*instance, index);
+    SetFromText(target, parameters, index, setting.substr(equals + 1));
+    session.UserChanged(target, index);
   }
 }
 

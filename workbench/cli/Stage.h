@@ -22,6 +22,11 @@ class Stage {
 
   HostSession& Session() { return session; }
   EffectInstance& Instance() { return *instance; }
+
+  // Puts the effect on the layer once more, with the values of the command line. It is not part of
+  // the project file.
+  EffectInstance& AddInstance();
+
   const Comp& ProjectComp() const { return comp; }
 
   // Takes the plug-in down and then writes the files that every command may leave: the project and
@@ -29,7 +34,7 @@ class Stage {
   void Finish(const std::function<void()>& publishFirst = {});
 
  private:
-  void ApplySettings();
+  void ApplySettings(EffectInstance& target);
 
   StageOptions options;
   Comp comp;  // outlives the session

@@ -1,0 +1,33 @@
+// What a user does in a panel, read from a file with one event a line.
+#pragma once
+
+#include <cstdint>
+#include <filesystem>
+#include <optional>
+#include <vector>
+
+#include "AE_EffectUI.h"
+
+// The most instances of the effect that a script may speak of.
+inline constexpr int32_t kMostInstances = 64;
+
+struct ScriptEvent {
+  enum class Kind { kClick, kDrag, kRelease, kMove, kDraw, kSnapshot, kAnswer, kInstance };
+
+  Kind kind = Kind::kDraw;
+  int line = 0;                        // in the file, from 1
+  PF_Point point{};                    // of a pointer's event, in the row
+  PF_Modifiers modifiers = 0;          //
+  A_long clicks = 1;                   // of a click
+  std::filesystem::path file;          // of a snapshot
+  std::optional<PF_PixelFloat> color;  // of an answer to the colour picker; none: cancelled
+  int32_t number = 1;                  // of an instance, 1 to kMostInstances
+};
+
+// Throws JobFailure, which names the file and the line, where a line is no event.
+//
+//   click X Y [shift] [alt] [ctrl] [double]     drag, release and move X Y [shift] [alt] [ctrl]
+//   draw      snapshot FILE.png      pick R G B, each 0 to 255      cancel      instance N
+//
+// A # and all behind it is a comment.
+std::vector<ScriptEvent> ReadEventScript(const std::filesystem::path& path);
