@@ -86,7 +86,7 @@ TEST(CommandsRow, KeepsItsStateAndRunsOnAReleaseInsideAlone) {
       EXPECT_EQ(instance.RecordWord(kTracking), step.tracking) << where;
       EXPECT_EQ(instance.RecordWord(kReserved), 2U) << where;
       EXPECT_EQ(result.outFlags, step.refreshes ? PF_OutFlag_REFRESH_UI : 0) << where;
-      EXPECT_EQ(instance.lastEvent.evt_out_flags, PF_EO_HANDLED_EVENT) << where;
+      EXPECT_EQ(instance.lastEvent.evt_out_flags, PF_EO_HANDLED_EVENT | PF_EO_UPDATE_NOW) << where;
       EXPECT_EQ(instance.lastEvent.u.do_click.send_drag != 0,
                 step.type == PF_Event_DO_CLICK && step.tracking == 1)
           << where;
