@@ -11,9 +11,13 @@ namespace {
 
 std::atomic<int64_t> allocations = 0;
 
-void* Allocate(size_t size) {
+void* AllocateOrNull(size_t size) {
   ++allocations;
-  void* memory = std::malloc(size);
+  return std::malloc(size);
+}
+
+void* Allocate(size_t size) {
+  void* memory = AllocateOrNull(size);
   if (memory == nullptr) throw std::bad_alloc();
   return memory;
 }
@@ -25,6 +29,12 @@ void* operator new(size_t size) {
 }
 void* operator new[](size_t size) {
   return Allocate(size);
+}
+void* operator new(size_t size, const std::nothrow_t&) noexcept {
+  return AllocateOrNull(size);
+}
+void* operator new[](size_t size, const std::nothrow_t&) noexcept {
+  return AllocateOrNull(size);
 }
 void operator delete(void* memory) noexcept {
   std::free(memory);
