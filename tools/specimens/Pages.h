@@ -11,3 +11,4 @@ struct Page {
 };
 
 void DrawShapePage(ImageBuffer& page);
+void DrawBlendPage(ImageBuffer& page);

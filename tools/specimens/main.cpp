@@ -15,6 +15,7 @@ constexpr int kHeight = 400;
 
 const std::vector<Page> kPages = {
     {"shapes", DrawShapePage},
+    {"blends", DrawBlendPage},
 };
 
 void Write(const ImageBuffer& picture, const std::filesystem::path& file) {
