@@ -42,7 +42,6 @@ struct StoredFont {
   std::array<uint8_t, Rows * Stride> strip;
 };
 
-static_assert(offsetof(StoredFont<8, 740>, strip) == sizeof(FontRecord));
 static_assert(sizeof(StoredFont<8, 740>) == sizeof(FontRecord) + std::size_t{8} * 740);
 
 // Reads a stored font, borrowed for as long as this lives. Every place in it is inside the strip.

@@ -12,3 +12,6 @@ struct Page {
 
 void DrawShapePage(ImageBuffer& page);
 void DrawBlendPage(ImageBuffer& page);
+// Text as it stands on panels, the widths of pairs, and every glyph of every font.
+void DrawTextPage(ImageBuffer& page);
+void DrawGlyphsPage(ImageBuffer& page);

@@ -16,6 +16,8 @@ constexpr int kHeight = 400;
 const std::vector<Page> kPages = {
     {"shapes", DrawShapePage},
     {"blends", DrawBlendPage},
+    {"text", DrawTextPage},
+    {"glyphs", DrawGlyphsPage},
 };
 
 void Write(const ImageBuffer& picture, const std::filesystem::path& file) {
