@@ -7,10 +7,12 @@
 #include <algorithm>
 #include <cmath>
 #include <stdexcept>
+#include <string_view>
 
 namespace {
 
 constexpr int kFontUnit = 64;  // FreeType's units to the pixel
+constexpr double kLeastSpaceInEms = 0.09;
 
 int RoundToInt(double value) {
   return static_cast<int>(std::lround(value));
@@ -18,6 +20,14 @@ int RoundToInt(double value) {
 
 void Check(FT_Error error, const std::string& what) {
   if (error != 0) throw std::runtime_error("can't " + what);
+}
+
+// A stem in the middle of a glyph stands on whole pixels where the widths of both are even or odd.
+int WholeWidth(double ink, int code, int stem) {
+  const bool hasMiddleStem =
+      std::string_view("TYm+").find(static_cast<char>(code)) != std::string_view::npos;
+  if (!hasMiddleStem) return std::max(RoundToInt(ink), 1);
+  return stem + 2 * RoundToInt((ink - stem) / 2);
 }
 
 // Stretches the outline so that its outer edges stand on whole pixels, and its left one on 0.
@@ -65,8 +75,9 @@ Glyph Face::Draw(int code) {
   const Edges edges = DesignedEdges(code);
   const double ink = edges.right - edges.left;
   if (ink <= 0) return {RoundToInt(edges.advance), 0, recipe.rows};
-  const int inkWidth = std::max(RoundToInt(ink), 1);
-  const int space = std::max(RoundToInt(edges.advance - edges.right + leftBearing), 1);
+  const int inkWidth = WholeWidth(ink, code, recipe.stem);
+  const int leastSpace = RoundToInt(recipe.pixelsPerEm * kLeastSpaceInEms);
+  const int space = std::max(RoundToInt(edges.advance - edges.right + leftBearing), leastSpace);
   Check(FT_Load_Char(face, static_cast<FT_ULong>(code), FT_LOAD_TARGET_LIGHT), "load a glyph");
   FT_Outline& outline = face->glyph->outline;
   FitAcross(outline, inkWidth);

@@ -7,8 +7,8 @@
 namespace {
 
 constexpr int kPlainInk = 64;
-constexpr int kFaintest = 1;
-constexpr int kStrongest = 24;
+constexpr int kFaintest = 6;
+constexpr int kStrongest = 10;
 constexpr double kShareOfFullInk = 0.7;  // the facing edge is often a curve
 
 int RightmostInk(const Glyph& glyph, int row) {
@@ -26,18 +26,20 @@ int FringeFor(int rowsAtEdge, int kernThreshold) {
 
 }  // namespace
 
-void LayFringe(Glyph& letter, int kernThreshold) {
+void LayFringe(Glyph& letter, bool isCapital, const Recipe& recipe) {
   int rowsAtEdge = 0;
   for (int row = 0; row < letter.rows; ++row) {
     rowsAtEdge += letter.At(row, letter.inkWidth - 1) >= kPlainInk ? 1 : 0;
   }
-  const int fringe = FringeFor(rowsAtEdge, kernThreshold);
+  const int fringe = FringeFor(rowsAtEdge, recipe.kernThreshold);
   const int space = letter.width - letter.inkWidth;
+  const int notchFilledTo = isCapital ? 0 : letter.width - recipe.deepestNotch;
   for (int row = 0; row < letter.rows; ++row) {
-    const int last = RightmostInk(letter, row);
-    if (last < 0) continue;
-    for (int column = last + 1; column <= last + space; ++column) {
-      letter.At(row, column) = static_cast<uint8_t>(fringe);
+    const int firstEmpty = RightmostInk(letter, row) + 1;
+    if (firstEmpty == 0) continue;
+    const int end = firstEmpty + space;
+    for (int column = firstEmpty; column < std::max(end, notchFilledTo); ++column) {
+      letter.At(row, column) = static_cast<uint8_t>(column < end ? fringe : kFaintest);
     }
   }
 }

@@ -41,7 +41,9 @@ std::vector<Glyph> DrawGlyphs(const Recipe& recipe, const std::vector<fs::path>&
   Face face(FindFace(recipe.face, folders), recipe);
   for (int code = kFirstCode; code <= kLastCode; ++code) {
     glyphs.push_back(face.Draw(code));
-    if (std::isalpha(code) != 0) LayFringe(glyphs.back(), recipe.kernThreshold);
+    if (std::isalpha(code) != 0) {
+      LayFringe(glyphs.back(), std::isupper(code) != 0, recipe);
+    }
   }
   return glyphs;
 }
@@ -114,7 +116,7 @@ std::string Strip(const Recipe& recipe, const std::vector<Glyph>& glyphs) {
   return strip.Text();
 }
 
-void WriteRecord(const Recipe& recipe, const std::vector<Glyph>& glyphs, const fs::path& folder) {
+std::string RecordText(const Recipe& recipe, const std::vector<Glyph>& glyphs) {
   std::ostringstream text;
   text << "// Made by tools/fonts/MakeFonts.cpp from "
        << (recipe.face == nullptr ? "our own symbols" : recipe.face) << " at " << recipe.pixelsPerEm
@@ -124,9 +126,12 @@ void WriteRecord(const Recipe& recipe, const std::vector<Glyph>& glyphs, const f
        << InkTable(glyphs, std::less<>()) << "}, { // ink bottoms\n"
        << InkTable(glyphs, std::greater<>()) << "}}, { // strip\n"
        << Strip(recipe, glyphs) << "}}\n";
-  const fs::path file = folder / (std::string(recipe.name) + ".inc");
+  return text.str();
+}
+
+void WriteFile(const fs::path& file, const std::string& text) {
   std::ofstream out(file, std::ios::binary);
-  out << text.str();
+  out << text;
   if (!out.flush()) throw std::runtime_error("can't write " + file.string());
 }
 
@@ -135,8 +140,12 @@ void WriteRecord(const Recipe& recipe, const std::vector<Glyph>& glyphs, const f
 int main(int argc, char** argv) try {
   if (argc < 3) throw std::runtime_error("usage: make_fonts FOLDER-OF-RECORDS FOLDER-OF-FACES...");
   const std::vector<fs::path> faceFolders(argv + 2, argv + argc);
+  std::vector<std::string> records;
   for (const Recipe& recipe : kRecipes) {
-    WriteRecord(recipe, DrawGlyphs(recipe, faceFolders), argv[1]);
+    records.push_back(RecordText(recipe, DrawGlyphs(recipe, faceFolders)));
+  }
+  for (size_t i = 0; i < records.size(); ++i) {
+    WriteFile(fs::path(argv[1]) / (std::string(kRecipes[i].name) + ".inc"), records[i]);
   }
   return 0;
 } catch (const std::exception& failure) {
