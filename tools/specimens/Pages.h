@@ -10,6 +10,7 @@ struct Page {
   void (*draw)(ImageBuffer& page);
 };
 
+void DrawIconPage(ImageBuffer& page);
 void DrawShapePage(ImageBuffer& page);
 void DrawBlendPage(ImageBuffer& page);
 // Text as it stands on panels, the widths of pairs, and every glyph of every font.

@@ -14,6 +14,7 @@ constexpr int kWidth = 640;
 constexpr int kHeight = 400;
 
 const std::vector<Page> kPages = {
+    {"icons", DrawIconPage},
     {"shapes", DrawShapePage},
     {"blends", DrawBlendPage},
     {"text", DrawTextPage},
