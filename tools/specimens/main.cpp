@@ -19,6 +19,7 @@ const std::vector<Page> kPages = {
     {"blends", DrawBlendPage},
     {"text", DrawTextPage},
     {"glyphs", DrawGlyphsPage},
+    {"blends", DrawBlendPage},
 };
 
 void Write(const ImageBuffer& picture, const std::filesystem::path& file) {
