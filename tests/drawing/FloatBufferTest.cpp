@@ -83,7 +83,11 @@ TEST(FloatBuffer, SizesThatCannotBeLeaveItAsItWas) {
   FloatBufferRGBA buffer;
   ASSERT_TRUE(buffer.Allocate(3, 2, true));
   EXPECT_EQ(buffer.RowBytes(), 64);
-  EXPECT_EQ(reinterpret_cast<uintptr_t>(buffer.Row(0)) % 32, 0U);
+  FloatBufferRGBA others[8];
+  for (int32_t i = 0; i < 8; ++i) {
+    ASSERT_TRUE(others[i].Allocate(i + 1, 2, true));
+    EXPECT_EQ(reinterpret_cast<uintptr_t>(others[i].Row(1)) % 32, 0U);
+  }
   buffer.Row(1)[2].red = 0.5F;
   constexpr int32_t kMost = std::numeric_limits<int32_t>::max();
   constexpr int32_t kSizes[][2] = {{0, 2}, {3, -1}, {kMost, 1}, {1, kMost}, {kMost, kMost}};

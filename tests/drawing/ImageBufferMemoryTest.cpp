@@ -68,7 +68,9 @@ TEST(ImageBufferMemory, ANewSizeIsBlankAndAtScaleOne) {
     EXPECT_EQ(picture->Bounds(), Rect());
     picture->FillRect({0, 0, 5, 5}, ColorBGRA(0), 256, nullptr);
     picture->CopyTo(*picture, {0, 0, 5, 5}, 0, 0, 256, nullptr);
-    picture->ScaleTo(*picture, {0, 0, 5, 5}, {0, 0, 5, 5}, nullptr, {.bilinear = true});
+    const auto target = MakePicture(native);
+    picture->ScaleTo(*target, {0, 0, 5, 5}, target->Bounds(), nullptr, {});
+    ExpectUntouched(*target, "scaled from nothing");
   }
 }
 

@@ -178,6 +178,16 @@ TEST(ImageBuffer, APictureOfScaleOneIsStretchedOnAScreenOfScaleTwo) {
   }
 }
 
+TEST(ImageBuffer, AScreenThatConvertsNothingTakesPicturesOfAnyScaleAsTheyAre) {
+  GuardedPicture icon(3, 2, 1);
+  GuardedPicture screen(9, 7, 2);
+  GuardedPicture expected = screen;
+  icon.CopyTo(expected, icon.Bounds(), 1, 1, 100, nullptr);
+  icon.SetScale(2.0F);
+  icon.CopyTo(screen, icon.Bounds(), 1, 1, 100, nullptr);
+  EXPECT_EQ(screen.bytes, expected.bytes);
+}
+
 TEST(ImageBuffer, APictureCanBeDrawnOntoItself) {
   GuardedPicture picture(9, 7, 3);
   const GuardedPicture before = picture;

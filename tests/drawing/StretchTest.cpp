@@ -120,6 +120,19 @@ TEST(Stretch, SamplesAndCombinesAsThePlainArithmetic) {
   }
 }
 
+TEST(Stretch, PositionsAreSummedUpStepByStep) {
+  const GuardedPicture source(3, 1, 1);
+  GuardedPicture drawn(30, 1, 2);
+  source.ScaleTo(drawn, source.Bounds(), drawn.Bounds(), nullptr, {});
+  // Ten steps of 0.1 come out just below 1, twenty just above 2.
+  constexpr int32_t kStarts[] = {0, 11, 20, 30};
+  for (int32_t column = 0; column < 3; ++column) {
+    for (int32_t x = kStarts[column]; x < kStarts[column + 1]; ++x) {
+      EXPECT_EQ(drawn.Row(0)[x], source.Row(0)[column]) << x;
+    }
+  }
+}
+
 TEST(Stretch, TheBoxFilterDarkensAtTheEdgeOfThePicture) {
   ImageBuffer source;
   source.Allocate(3, 2, false);
