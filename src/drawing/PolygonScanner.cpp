@@ -11,8 +11,8 @@
 namespace {
 
 // Some tens of milliseconds of each; shapes of a panel need thousands.
-constexpr int64_t kMostSteps = int64_t{1} << 26;
-constexpr int64_t kMostEdges = int64_t{1} << 24;
+constexpr int64_t kMostSteps = int64_t{1} << 24;
+constexpr int64_t kMostEdges = int64_t{1} << 22;
 
 }  // namespace
 
@@ -21,11 +21,14 @@ void PolygonScanner::BeginPath() {
   edgesLeft = kMostEdges;
 }
 
-void PolygonScanner::AddPolygon(const Polygon& polygon, const Rect& bounds, CrossingRows& rows) {
-  edgesLeft -= static_cast<int64_t>(polygon.Count());
+void PolygonScanner::TakeEdges(size_t count) {
+  edgesLeft -= static_cast<int64_t>(count);
   if (edgesLeft < 0) {
     throw App::ExceptionInfo{App::kOutOfMemory, "The path has more edges than can be drawn"};
   }
+}
+
+void PolygonScanner::AddPolygon(const Polygon& polygon, const Rect& bounds, CrossingRows& rows) {
   for (size_t i = 1; i < polygon.Count(); ++i) AddEdge(polygon[i - 1], polygon[i], bounds, rows);
 }
 

@@ -1,6 +1,7 @@
 // Turns the edges of polygons into crossings with the rows of samples.
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 
 #include "drawing/Crossings.h"
@@ -14,9 +15,13 @@ class PolygonScanner {
   // A new path: all it may ask for is there again.
   void BeginPath();
 
+  // Counts edges that are about to be gone over. A polygon may be closed again and again and is
+  // drawn each time, so that a short path could ask for any number of them. Throws
+  // App::ExceptionInfo kOutOfMemory where the path has had all its edges.
+  void TakeEdges(size_t count);
+
   // Adds the crossings of all edges in the rows of `bounds`. From the last point to the first there
-  // is no edge: the polygon ends on its start. Throws as CrossingRows::Add does, and where the
-  // path's polygons have more edges than can be drawn.
+  // is no edge: the polygon ends on its start. Throws as CrossingRows::Add does.
   void AddPolygon(const Polygon& polygon, const Rect& bounds, CrossingRows& rows);
 
  private:

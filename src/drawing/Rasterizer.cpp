@@ -126,6 +126,7 @@ bool Rasterizer::ScanCommand(uint32_t command, PathBuilder& path, const Matrix* 
       AddArc(points[0], points[1]);
       return true;
     case kClose:
+      scanner.TakeEdges(polygon.Count());
       if (lineWidth != 0) BuildStroke(polygon, lineWidth, grid.samples);
       RasterizePolygon();
       return true;
