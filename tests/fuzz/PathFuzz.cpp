@@ -6,10 +6,12 @@
 #include <cstdint>
 #include <cstdlib>
 #include <cstring>
+#include <optional>
 
 #include "drawing/ImageBuffer.h"
 #include "drawing/PathBuilder.h"
 #include "drawing/Rasterizer.h"
+#include "drawing/SharedPainter.h"
 #include "engine/ExceptionInfo.h"
 
 namespace {
@@ -98,7 +100,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
   ImageBuffer buffer;
   buffer.Allocate(input.Take<uint8_t>() % 80, input.Take<uint8_t>() % 80, false);
   const uint8_t options = input.Take<uint8_t>();
-  const auto quality = static_cast<int8_t>(input.Take<uint8_t>() % 6);
+  const int32_t quality = input.Take<uint8_t>() % 8;
   const int32_t opacity = (options & 1) != 0 ? input.Take<int32_t>() : input.Take<int16_t>();
   const Rect clip = TakeRect(input);
   const double lineWidth = (options & 2) != 0 ? TakeCoordinate(input) : 0;
@@ -108,7 +110,10 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
   PathBuilder path;
   TakePath(input, path);
 
-  Rasterizer rasterizer(quality);
+  // The shared one keeps its tables from earlier inputs.
+  std::optional<Rasterizer> ownRasterizer;
+  if (quality < 5) ownRasterizer.emplace(quality);
+  Rasterizer& rasterizer = ownRasterizer ? *ownRasterizer : SharedRasterizer();
   Rect bounds;
   try {
     rasterizer.DrawPath(path, buffer, ColorBGRA(0xFFFFFFFF), opacity, (options & 32) != 0,
