@@ -4,7 +4,7 @@
 #include <cstdint>
 
 #include "drawing/Rect.h"
-#include "toolkit/SaturatedInt.h"
+#include "toolkit/RectAlgebra.h"
 
 // Logical pixels of the picture.
 //
@@ -20,12 +20,8 @@ struct PaintArea {
 
 // localBounds     the control's, its top left at (0, 0)
 // rect, position  as a control's Paint gets them
-constexpr PaintArea AreaInBuffer(const Rect& localBounds, const Rect& rect, const Point& position) {
+inline PaintArea AreaInBuffer(const Rect& localBounds, const Rect& rect, const Point& position) {
   const int64_t dx = int64_t{position.x} - rect.left;
   const int64_t dy = int64_t{position.y} - rect.top;
-  const auto moved = [dx, dy](const Rect& local) -> Rect {
-    return {SaturatedInt(local.left + dx), SaturatedInt(local.top + dy),
-            SaturatedInt(local.right + dx), SaturatedInt(local.bottom + dy)};
-  };
-  return {moved(localBounds), moved(rect)};
+  return {MovedBy(localBounds, dx, dy), MovedBy(rect, dx, dy)};
 }

@@ -11,6 +11,7 @@ struct Page {
 };
 
 void DrawIconPage(ImageBuffer& page);
+void DrawButtonPage(ImageBuffer& page);
 void DrawShapePage(ImageBuffer& page);
 void DrawBlendPage(ImageBuffer& page);
 // Text as it stands on panels, the widths of pairs, and every glyph of every font.

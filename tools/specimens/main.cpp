@@ -15,6 +15,7 @@ constexpr int kHeight = 400;
 
 const std::vector<Page> kPages = {
     {"icons", DrawIconPage},
+    {"buttons", DrawButtonPage},
     {"shapes", DrawShapePage},
     {"blends", DrawBlendPage},
     {"text", DrawTextPage},
