@@ -2,6 +2,7 @@
 #include "drawing/Labeler.h"
 #include "drawing/SharedPainter.h"
 #include "toolkit/MenuControl.h"
+#include "toolkit/PaintArea.h"
 #include "toolkit/RectAlgebra.h"
 
 namespace {
@@ -14,11 +15,6 @@ constexpr ColorBGRA kHoverFill{0xFF134060};
 constexpr int32_t kHoverFillOpacity = 200;
 constexpr const char* kCheckMark = "4";  // in FontSymbols
 
-// A local rectangle in the buffer, where the top left of `painted` stands at `position`.
-Rect InBuffer(const Rect& local, const Rect& painted, const Point& position) {
-  return MovedBy(local, int64_t{position.x} - painted.left, int64_t{position.y} - painted.top);
-}
-
 void PaintSeparator(ImageBuffer& buffer, const Rect& row, const Rect& clip, ColorBGRA color) {
   const int64_t middle = row.top + (int64_t{row.bottom} - row.top) / 2;
   const Rect line = {row.left, Narrowed(middle - 1), row.right, Narrowed(middle)};
@@ -29,24 +25,23 @@ void PaintSeparator(ImageBuffer& buffer, const Rect& row, const Rect& clip, Colo
 
 void MenuControl::Paint(const Rect& rect, ImageBuffer& buffer, const Point& position) {
   if (items.empty()) return;
-  const Rect clip = InBuffer(rect, rect, position);
+  const PaintArea area = AreaInBuffer(GetLocalBounds(), rect, position);
   PathBuilder& path = SharedPath();
-  path.SetRoundRect(InBuffer(GetLocalBounds(), rect, position), kCornerRadius, true, true, true,
-                    true);
-  SharedRasterizer().DrawPath(path, buffer, ThemeColors::MenuFill, kFillOpacity, false, &clip,
+  path.SetRoundRect(area.bounds, kCornerRadius, true, true, true, true);
+  SharedRasterizer().DrawPath(path, buffer, ThemeColors::MenuFill, kFillOpacity, false, &area.clip,
                               nullptr, 0.0);
-  SharedRasterizer().DrawPath(path, buffer, ThemeColors::MenuFrame, kOpaque, false, &clip, nullptr,
-                              kFrameWidth);
+  SharedRasterizer().DrawPath(path, buffer, ThemeColors::MenuFrame, kOpaque, false, &area.clip,
+                              nullptr, kFrameWidth);
   PaintItems(rect, buffer, position);
 }
 
 void MenuControl::PaintItems(const Rect& rect, ImageBuffer& buffer, const Point& position) {
-  const Rect clip = InBuffer(rect, rect, position);
+  const PaintArea area = AreaInBuffer(GetLocalBounds(), rect, position);
   for (int32_t index = FirstRowBelow(rect.top); index < GetItemCount(); ++index) {
     const Rect row = GetRowRect(index);
     if (row.top >= rect.bottom) return;
     if (IsEmpty(Intersection(row, rect))) continue;
-    PaintItem(index, buffer, InBuffer(row, rect, position), clip);
+    PaintItem(index, buffer, MovedBy(row, area.bounds.left, area.bounds.top), area.clip);
   }
 }
 
@@ -59,13 +54,14 @@ void MenuControl::PaintItem(int32_t index, ImageBuffer& buffer, const Rect& rect
 
 void MenuControl::PaintTextRow(int32_t index, ImageBuffer& buffer, const Rect& rect,
                                const Rect& clip, const RowLook& look) const {
-  const MenuItem& item = *items[static_cast<size_t>(index)];
+  const MenuItem* const item = GetItem(index);
+  if (item == nullptr) return;
   const MenuRowColors& colors = RowColors(index);
   if (colors.back.alpha != 0) buffer.FillRect(rect, colors.back, kOpaque, &clip);
-  if (index == hoverIndex && item.enabled && IsEnabled()) {
+  if (index == hoverIndex && item->enabled && IsEnabled()) {
     buffer.FillRect(rect, kHoverFill, kHoverFillOpacity, &clip);
   }
-  if (item.IsSeparator()) {
+  if (item->IsSeparator()) {
     PaintSeparator(buffer, rect, clip, disabledColors.text);
     return;
   }
@@ -76,9 +72,9 @@ void MenuControl::PaintTextRow(int32_t index, ImageBuffer& buffer, const Rect& r
   style.clip = &clip;
   const int32_t textLeft = Narrowed(int64_t{rect.left} + look.indent);
   const Rect text = {textLeft, rect.top, rect.right, rect.bottom};
-  labeler.SetFont(item.font);
-  labeler.DrawStringInRect(buffer, item.label.c_str(), text, TextAlignment::kLeft, style);
-  if (!item.marked) return;
+  labeler.SetFont(item->font);
+  labeler.DrawStringInRect(buffer, item->label.c_str(), text, TextAlignment::kLeft, style);
+  if (!item->marked) return;
   const Rect mark = {rect.left, rect.top, textLeft, rect.bottom};
   labeler.SetFont(&FontSymbols());
   labeler.DrawStringInRect(buffer, look.mark, mark, TextAlignment::kCentre, style);
