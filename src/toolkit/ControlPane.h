@@ -15,17 +15,20 @@
 #include "toolkit/Tweens.h"
 #include "toolkit/WindowContext.h"
 
+class ChildWalk;
+class ControlWatch;
 class PopupContextMenu;
 class TopControlPane;
 
-// Where a part of a control lands: the top left of `rect`, which is in the control's own
-// coordinates, stands at `position` of the buffer.
-//
 // Three spaces. Local: (0, 0) is the control's top left. Owner: the owner's local space, in which
-// the bounds stand. Global: the owner space of the root, which is where the mouse arrives.
+// the bounds stand. Global: the owner space of the root, which is where the mouse arrives. Edges
+// beyond what an int32 holds stop there.
 //
-// An owner deletes its children. Any call of a hook, a listener or a Notify may delete controls,
-// this one included: see DestroyedControls.
+// An owner deletes its children. Any call of a hook, a listener, a Notify or a paint may delete
+// controls, this one included: see ControlWatch and DestroyedControls. Questions (const operations,
+// hit tests) leave the tree as it is.
+//
+// Operations on a subtree nest one call a level; trees of 10000 levels are fine.
 class ControlPane : public PopupContextMenuDelegate {
  public:
   // Doesn't link the control into the owner's children; AddChild does.
@@ -34,14 +37,16 @@ class ControlPane : public PopupContextMenuDelegate {
   ControlPane& operator=(const ControlPane&) = delete;
 
   void OnPopupContextMenu(PopupContextMenu* menu, ControlPane* menuControl, int32_t index) override;
-  // Deletes all children and the context menu.
+  // Deletes all children and the context menu. A control that is still linked takes itself out of
+  // its owner's children.
   ~ControlPane() override;
 
-  // Children, the topmost first. A child that is in the tree already, this control itself and its
+  // Children, the topmost first. A child that is linked already, this control itself and its
   // ancestors are refused; null is ignored.
   virtual void AddChild(ControlPane* child, bool atFront);
   virtual void InsertChild(ControlPane* child, int32_t index);
-  virtual void RemoveChild(ControlPane* child);  // the caller owns it then
+  // The caller owns the child then; its owner field stays. Nothing happens to another's child.
+  virtual void RemoveChild(ControlPane* child);
   virtual void DeleteChild(ControlPane* child);
   virtual void DeleteAllChildren();
   virtual void MoveToFront();
@@ -220,7 +225,10 @@ class ControlPane : public PopupContextMenuDelegate {
   bool IsDescendant(const ControlPane* control) const;
 
  protected:
-  ControlPane* owner = nullptr;
+  // For a destructor whose children still need to see the whole of their owner.
+  void DeleteSubtree();
+
+  ControlPane* owner = nullptr;  // AddChild alone sets it; null once the owner is gone
   Rect bounds;
   int32_t id = 0;
   int32_t state = kStateNormal;
@@ -248,4 +256,39 @@ class ControlPane : public PopupContextMenuDelegate {
   const char* helpText = nullptr;
   int32_t helpIndex = 0;
   PopupContextMenu* contextMenu = nullptr;
+
+ private:
+  friend class ChildWalk;
+  friend class ControlWatch;
+
+  // One control in a list of controls; it can leave without knowing whose list it is.
+  struct ListLink {
+    ControlPane* next = nullptr;
+    ControlPane** pointerToThis = nullptr;
+  };
+
+  void EnterList(ControlPane** head);
+  void LeaveList();
+  void SetOwner(ControlPane* newOwner);
+  bool CanAdopt(const ControlPane* child);
+  void Link(ControlPane* child, std::list<ControlPane*>::iterator before);
+  void Unlink(ControlPane* child);
+  void EndWatchesAndWalks();
+  ControlPane* NextInSubtree(const ControlPane* top) const;
+  void RedrawTile(const Rect& tile);
+  ControlPane* FindOccluder(const Rect& rect) const;
+  void DrawChild(ControlPane& child, const Rect& rect, const Point& origin, ImageBuffer& buffer);
+  bool IsHitAt(const Point& point) const;
+  void StoreDraggedBounds(const Rect& dragged, bool layOut);
+  bool TakeChangedParameters();
+  void StepBoundsTween(double now);
+  void StepOpacityTween(double now);
+  static void DeleteUnlinked(ControlPane* control);
+
+  bool isLinked = false;                           // is in its owner's children
+  std::list<ControlPane*>::iterator placeInOwner;  // there, while linked
+  ControlPane* firstWard = nullptr;                // all that name this one as their owner
+  ListLink wardLink;
+  ControlWatch* firstWatch = nullptr;
+  ChildWalk* firstWalk = nullptr;
 };

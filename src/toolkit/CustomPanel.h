@@ -39,4 +39,7 @@ class CustomPanel : public TopControlPane {
  protected:
   PluginContext* pluginContext = nullptr;
   ColorBGRA background = ThemeColors::PanelBackground;
+
+ private:
+  void CreateScreenBuffer();
 };

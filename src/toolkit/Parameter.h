@@ -13,6 +13,8 @@ class Parameter {
   // Whether the value has changed since a control last took it.
   virtual bool HasChanged() const = 0;
   virtual const std::string& GetName() const = 0;
+  // Makes what was set since the last update the value that controls see.
+  virtual void FlushChange() {}
 
   // The list that the parameter stands in, and where.
   virtual void SetOwner(ParameterOwner* newOwner) { owner = newOwner; }

@@ -26,6 +26,9 @@ class ParameterOwner {
   // -1 where there is none.
   virtual int32_t GetParameterIndexByName(const std::string& name) const;
   virtual int32_t GetParameterIndex(const Parameter* parameter) const;
+  virtual void FlushParameterChanges();
+  // OnParameterChanged for each that has changed.
+  virtual void NotifyParameterChanges();
 
  private:
   std::vector<Parameter*> ownedParameters;

@@ -1,6 +1,8 @@
 // Joining and cutting the areas of controls.
 #pragma once
 
+#include <cstdint>
+
 #include "drawing/Rect.h"
 
 // The smallest rectangle round both. An empty a gives b, whatever b is; an empty b gives a.
@@ -11,7 +13,14 @@ Rect UnionOf(const Rect& a, const Rect& b);
 Rect IntersectionOf(const Rect& a, const Rect& b);
 
 // The rectangle moved; edges beyond what an int32 holds stop there.
-Rect MovedBy(const Rect& rect, int32_t dx, int32_t dy);
+Rect MovedBy(const Rect& rect, int64_t dx, int64_t dy);
+Point MovedBy(const Point& point, int64_t dx, int64_t dy);
+
+// The same size with the top left at (0, 0); a side longer than an int32 holds is cut there.
+Rect AtOrigin(const Rect& rect);
+
+// The nearest that an int32 holds.
+int32_t Narrowed(int64_t coordinate);
 
 // Whether the point is inside, right and bottom excluded.
 bool Contains(const Rect& rect, const Point& point);

@@ -15,7 +15,8 @@ ImageBuffer* ScratchBuffer();
 // App::ExceptionInfo kOutOfMemory.
 NativeImageBuffer& MakeScreenBuffer(int32_t width, int32_t height);
 
-// A screen buffer at least as large as a panel, and as the one before it.
-void EnsureScreenBuffer(int32_t width, int32_t height);
+// Makes a screen buffer at least as large as a panel, and as the one before it. False where that
+// one will do.
+bool EnsureScreenBuffer(int32_t width, int32_t height);
 
 void DestroyScreenBuffer();

@@ -2,15 +2,16 @@
 #pragma once
 
 #include <cstdint>
-#include <set>
 #include <vector>
 
 #include "toolkit/ControlPane.h"
+#include "toolkit/ControlWatch.h"
 #include "toolkit/ParameterOwner.h"
 
 class TopControlPane : public ControlPane, public ParameterOwner {
  public:
   explicit TopControlPane(const Rect& initialBounds);
+  ~TopControlPane() override;
 
   WindowContext* GetWindowContext() override;
   NativeImageBuffer* GetScreenBuffer() override;
@@ -20,7 +21,7 @@ class TopControlPane : public ControlPane, public ParameterOwner {
   void UpdateTree() override;
   void OnParameterChanged(int32_t index) override;
 
-  // Forgets a control that leaves the tree.
+  // Forgets a control that leaves the tree, and all in it.
   virtual void OnChildRemoved(ControlPane* control);
   // Valid during one event of the host; not owned.
   virtual void SetWindowContext(WindowContext* context);
@@ -38,13 +39,16 @@ class TopControlPane : public ControlPane, public ParameterOwner {
   virtual int32_t MouseOver(const Point& point, const Modifiers& modifiers);
 
   virtual void OnCaptureGained(ControlPane* control);
-  virtual void OnCaptureLost(ControlPane* control);
+  virtual void OnCaptureLost(ControlPane* control);  // null where nothing was captured
+  // A control that isn't in the tree counts as null.
   virtual void SetCapture(ControlPane* control);
   virtual void ReleaseCapture();
   virtual ControlPane* GetCapture() const;
   virtual Point GetLastMousePoint() const;
   virtual void GetLastMouseDelta(float* dx, float* dy) const;
 
+  // A control that isn't in the tree is ignored.
+  // notify   whether a control that loses the focus keeps what was entered: see FocusNotifies
   virtual void SetFocus(ControlPane* control, bool notify);
   virtual void OnFocusChanged(ControlPane* control);
   virtual void FocusNext();
@@ -69,18 +73,35 @@ class TopControlPane : public ControlPane, public ParameterOwner {
 
   // The id given to the window last.
   int32_t CurrentCursor() const { return currentCursor; }
+  // The notify of the last change of focus, for OnFocusLost.
+  bool FocusNotifies() const { return focusNotifies; }
+  // Whether a control is this one or linked under it.
+  bool Belongs(const ControlPane* control) const;
 
  protected:
+  // The controls held here become null when they are deleted.
   WindowContext* windowContext = nullptr;
-  ControlPane* capturedControl = nullptr;
-  ControlPane* focusedControl = nullptr;
-  ControlPane* hoverOwner = nullptr;  // keeps the pointer's cursor
+  ControlWatch capturedControl;
+  ControlWatch focusedControl;
+  ControlWatch hoverOwner;  // keeps the pointer's cursor
   Point lastMousePoint;
   float lastMouseDeltaX = 0.0F;
   float lastMouseDeltaY = 0.0F;
-  std::vector<ControlPane*> focusRing;  // Tab order; entries may be null
+  std::vector<ControlWatch> focusRing;  // Tab order; entries may be null
   uint32_t lastIdleMs = 0;
   int32_t pendingKey = 0;
   int32_t currentCursor = 0;
-  std::set<ControlPane*> hoverSet;  // from the control under the pointer up to the root
+  std::vector<ControlWatch> hoverSet;  // from the control under the pointer up to the root
+  bool focusNotifies = false;
+
+ private:
+  bool PrepareForPress(ControlPane* hit);
+  void RecordPress(const Point& point, const Modifiers& modifiers, bool isDoubleClick,
+                   int32_t button);
+  void OpenContextMenu(ControlPane* hit, const Point& point);
+  void MoveHover(ControlPane* hit);
+  int32_t AskForCursor(ControlPane* hit, const Point& point, const Modifiers& modifiers);
+  void ReleaseCaptured(ControlPane& captured, const Point& point);
+  bool StepFocus(const Modifiers& modifiers);
+  void DeletePendingChildren();
 };

@@ -1,0 +1,114 @@
+// Moving and resizing a control with the mouse.
+#include <algorithm>
+#include <array>
+
+#include "toolkit/ControlPane.h"
+#include "toolkit/ControlWatch.h"
+#include "toolkit/RectAlgebra.h"
+
+namespace {
+
+// Shifted inside `area`, one edge after the other: the last ones win where it is too large.
+Rect ShiftedInside(Rect rect, const Rect& area) {
+  if (IsEmpty(area)) return rect;
+  if (rect.left < area.left) rect = MovedBy(rect, int64_t{area.left} - rect.left, 0);
+  if (rect.top < area.top) rect = MovedBy(rect, 0, int64_t{area.top} - rect.top);
+  if (rect.right > area.right) rect = MovedBy(rect, int64_t{area.right} - rect.right, 0);
+  if (rect.bottom > area.bottom) rect = MovedBy(rect, 0, int64_t{area.bottom} - rect.bottom);
+  return rect;
+}
+
+// Which edges each zone moves.
+struct ZoneEdges {
+  bool left, top, right, bottom;
+};
+constexpr std::array<ZoneEdges, 8> kZoneEdges = {{
+    {true, false, false, false},
+    {false, true, false, false},
+    {false, false, true, false},
+    {false, false, false, true},
+    {true, true, false, false},
+    {false, true, true, false},
+    {true, false, false, true},
+    {false, false, true, true},
+}};
+
+// One direction of a resize: the near edge moves, the far one, or none.
+void ResizeSpan(int32_t* nearEdge, int32_t* farEdge, bool movesNear, bool movesFar, int64_t offset,
+                int32_t shortest, int32_t longest) {
+  if (!movesNear && !movesFar) return;
+  const int64_t nearMoved = *nearEdge + (movesNear ? offset : 0);
+  const int64_t farMoved = *farEdge + (movesFar ? offset : 0);
+  const int64_t length =
+      std::max<int64_t>(shortest, std::min<int64_t>(longest, farMoved - nearMoved));
+  if (movesNear) {
+    *nearEdge = Narrowed(*farEdge - length);
+  } else {
+    *farEdge = Narrowed(*nearEdge + length);
+  }
+}
+
+}  // namespace
+
+void ControlPane::DragMove(WindowContext* /*context*/, const Point& point) {
+  if (trackingMode != kTrackMove || owner == nullptr) return;
+  Point target = point;
+  LocalToOwnerPoint(&target);
+  const Rect size = GetLocalBounds();
+  const Rect moved =
+      MovedBy(size, int64_t{target.x} - downPointLocal.x, int64_t{target.y} - downPointLocal.y);
+  StoreDraggedBounds(ShiftedInside(moved, owner->GetLocalBounds()), false);
+}
+
+void ControlPane::DragResize(WindowContext* /*context*/, const Point& point) {
+  if (trackingMode != kTrackResize || owner == nullptr) return;
+  if (resizeZone < 0 || resizeZone >= static_cast<int32_t>(kZoneEdges.size())) return;
+  // The control's own space moves with its left and top edge; the offset is measured in the space
+  // of the press.
+  Point target = point;
+  LocalToOwnerPoint(&target);
+  const int64_t dx = int64_t{target.x} - downBounds.left - downPointLocal.x;
+  const int64_t dy = int64_t{target.y} - downBounds.top - downPointLocal.y;
+  const ZoneEdges edges = kZoneEdges[static_cast<size_t>(resizeZone)];
+  Rect resized = downBounds;
+  ResizeSpan(&resized.left, &resized.right, edges.left, edges.right, dx, minWidth, maxWidth);
+  ResizeSpan(&resized.top, &resized.bottom, edges.top, edges.bottom, dy, minHeight, maxHeight);
+  StoreDraggedBounds(resized, true);
+}
+
+void ControlPane::StoreDraggedBounds(const Rect& dragged, bool layOut) {
+  if (dragged == bounds) return;
+  Rect changed = UnionOf(bounds, dragged);
+  const ControlWatch self(this);
+  SetBounds(dragged);
+  if (layOut && self) LayoutChildren();
+  if (!self) return;
+  OwnerToLocalRect(&changed);
+  RedrawThroughRoot(changed);
+  if (self) OnDragMoved();
+}
+
+void ControlPane::OnDragMoved() {}
+
+bool ControlPane::FindResizeZone(const Point& point, int32_t inset, int32_t* zone) const {
+  const Rect area = GetLocalBounds();
+  const int32_t innerLeft = inset;
+  const int32_t innerTop = inset;
+  const int32_t innerRight = Narrowed(int64_t{area.right} - inset);
+  const int32_t innerBottom = Narrowed(int64_t{area.bottom} - inset);
+  const std::array<Rect, 8> bands = {{
+      {0, innerTop, innerLeft, innerBottom},
+      {innerLeft, 0, innerRight, innerTop},
+      {innerRight, innerTop, area.right, innerBottom},
+      {innerLeft, innerBottom, innerRight, area.bottom},
+      {0, 0, innerLeft, innerTop},
+      {innerRight, 0, area.right, innerTop},
+      {0, innerBottom, innerLeft, area.bottom},
+      {innerRight, innerBottom, area.right, area.bottom},
+  }};
+  const auto* const found = std::find_if(
+      bands.begin(), bands.end(), [&point](const Rect& band) { return Contains(band, point); });
+  if (found == bands.end()) return false;
+  *zone = static_cast<int32_t>(found - bands.begin());
+  return true;
+}

@@ -1,0 +1,41 @@
+// The map from id to panel.
+#include "toolkit/PanelRegistry.h"
+
+#include <map>
+#include <memory>
+
+#include "toolkit/CustomPanel.h"
+#include "toolkit/DestroyedControls.h"
+#include "toolkit/SharedBuffers.h"
+
+namespace {
+
+using Panels = std::map<int32_t, std::unique_ptr<CustomPanel>>;
+
+Panels& Registered() {
+  // Panels that are still here when the library is unloaded need what was made before them.
+  static Panels panels = [] {
+    DestroyedControls::ForgetAll();
+    return Panels();
+  }();
+  return panels;
+}
+
+}  // namespace
+
+void RegisterCustomPanel(CustomPanel* panel) {
+  if (panel != nullptr) Registered()[panel->GetId()].reset(panel);
+}
+
+CustomPanel* FindCustomPanel(int32_t panelId) {
+  const auto found = Registered().find(panelId);
+  return found == Registered().end() ? nullptr : found->second.get();
+}
+
+void DestroyCustomPanels() {
+  // A panel may look others up while it goes.
+  Panels leaving;
+  leaving.swap(Registered());
+  leaving.clear();
+  DestroyScreenBuffer();
+}

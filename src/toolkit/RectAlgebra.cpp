@@ -1,0 +1,42 @@
+// Joining, cutting and moving rectangles without overflow.
+#include "toolkit/RectAlgebra.h"
+
+#include <algorithm>
+#include <limits>
+
+int32_t Narrowed(int64_t coordinate) {
+  using Limits = std::numeric_limits<int32_t>;
+  return static_cast<int32_t>(std::clamp<int64_t>(coordinate, Limits::min(), Limits::max()));
+}
+
+Rect UnionOf(const Rect& a, const Rect& b) {
+  if (IsEmpty(a)) return b;
+  if (IsEmpty(b)) return a;
+  return {std::min(a.left, b.left), std::min(a.top, b.top), std::max(a.right, b.right),
+          std::max(a.bottom, b.bottom)};
+}
+
+Rect IntersectionOf(const Rect& a, const Rect& b) {
+  if (IsEmpty(a)) return a;
+  if (IsEmpty(b)) return {};
+  return {std::clamp(a.left, b.left, b.right), std::clamp(a.top, b.top, b.bottom),
+          std::clamp(a.right, b.left, b.right), std::clamp(a.bottom, b.top, b.bottom)};
+}
+
+Rect MovedBy(const Rect& rect, int64_t dx, int64_t dy) {
+  return {Narrowed(rect.left + dx), Narrowed(rect.top + dy), Narrowed(rect.right + dx),
+          Narrowed(rect.bottom + dy)};
+}
+
+Point MovedBy(const Point& point, int64_t dx, int64_t dy) {
+  return {Narrowed(point.x + dx), Narrowed(point.y + dy)};
+}
+
+Rect AtOrigin(const Rect& rect) {
+  return MovedBy(rect, -int64_t{rect.left}, -int64_t{rect.top});
+}
+
+bool Contains(const Rect& rect, const Point& point) {
+  return point.x >= rect.left && point.x < rect.right && point.y >= rect.top &&
+         point.y < rect.bottom;
+}
