@@ -25,13 +25,13 @@ void Paint(FloatBufferRGBA& buffer, int32_t width, int32_t height, ValueAt value
 TEST(FloatBuffer, ResamplingKeepsAPlaneAndEndsAtTheEdges) {
   FloatBufferRGBA source;
   Paint(source, 9, 7, [](int32_t x, int32_t y) { return 2 * x + 5 * y; });
-  FloatBufferRGBA doubled;
-  ASSERT_TRUE(doubled.Allocate(18, 14, true));
-  FloatBufferRGBA::Resample(source, 9, 7, doubled, 18, 14);
-  for (int32_t y = 2; y < 11; ++y) {
+  FloatBufferRGBA enlarged;
+  ASSERT_TRUE(enlarged.Allocate(18, 28, true));
+  FloatBufferRGBA::Resample(source, 9, 7, enlarged, 18, 28);
+  for (int32_t y = 4; y < 20; ++y) {
     for (int32_t x = 2; x < 15; ++x) {
-      const FloatPixelRGBA& pixel = doubled.Row(y)[x];
-      const double expected = x + 2.5 * y;
+      const FloatPixelRGBA& pixel = enlarged.Row(y)[x];
+      const double expected = x + 1.25 * y;
       EXPECT_NEAR(pixel.blue, expected, 1e-4) << x << ',' << y;
       EXPECT_NEAR(pixel.green, expected + 1, 1e-4);
       EXPECT_NEAR(pixel.red, expected + 2, 1e-4);
@@ -40,7 +40,7 @@ TEST(FloatBuffer, ResamplingKeepsAPlaneAndEndsAtTheEdges) {
   }
   // Half a pixel past the last column: its own value stands for both that are missing, so that the
   // weights -1/16, 9/16, 9/16, -1/16 meet 14, 16, 16, 16.
-  EXPECT_FLOAT_EQ(doubled.Row(0)[17].blue, 16.125F);
+  EXPECT_FLOAT_EQ(enlarged.Row(0)[17].blue, 16.125F);
 }
 
 TEST(FloatBuffer, AStepBetweenTwoPixelsOvershootsByTheCubicsWeights) {
