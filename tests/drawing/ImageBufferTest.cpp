@@ -7,150 +7,131 @@
 #include <algorithm>
 
 #include "AllocationCount.h"
-#include "drawing/ClippedPlacement.h"
+#include "drawing/Compositing.h"
 #include "tests/drawing/GuardedPicture.h"
 
 namespace {
 
-TEST(ImageBuffer, FillsAsThePlainArithmeticAtEveryOpacityOnEveryAlphaAndChannel) {
-  constexpr ColorBGRA kColor(0x4D01FE80);
-  ImageBuffer canvas;
-  canvas.Allocate(256, 256, false);
+TEST(ImageBuffer, CompositesAsThePlainArithmeticAtEveryAlphaOnEveryAlpha) {
   int wrong = 0;
-  for (int32_t opacity = 0; opacity <= 256; ++opacity) {
-    for (int32_t y = 0; y < 256; ++y) {
-      for (int32_t x = 0; x < 256; ++x) {
-        canvas.Row(y)[x] = ColorBGRA(static_cast<uint32_t>((y << 24) | x * 0x10101));
-      }
-    }
-    canvas.FillRect(canvas.Bounds(), kColor, opacity, nullptr);
-    for (int32_t y = 0; y < 256; ++y) {
-      for (int32_t x = (y * 7 + opacity) % 16; x < 256; x += 16) {
-        const ColorBGRA before(static_cast<uint32_t>((y << 24) | x * 0x10101));
-        const ColorBGRA expected =
-            opacity == 256 ? kColor : PlainComposite(before, kColor, opacity);
-        if (!(canvas.Row(y)[x] == expected)) ++wrong;
-      }
-    }
+  for (uint32_t i = 0; i < 0x1000000; i += 13) {
+    const auto alpha = static_cast<int32_t>(i >> 16);
+    const ColorBGRA under((i << 16) | (i & 0xFFFF));
+    const ColorBGRA over(0x4D01FE00U | (i >> 8));
+    ColorBGRA pixel = under;
+    CompositePixel(pixel, over, alpha);
+    if (!(pixel == PlainComposite(under, over, alpha))) ++wrong;
   }
   EXPECT_EQ(wrong, 0);
 }
 
+// draw(picture, clip) draws on noise; after(pixel, x, y) says what becomes of a pixel inside the
+// clip.
+template <typename Draw, typename After>
+void HoldAgainst(RandomPlaces& places, Draw draw, After after) {
+  GuardedPicture drawn(9, 7, static_cast<uint32_t>(places.Number(0, 1000)));
+  GuardedPicture expected = drawn;
+  const Rect clip = places.Place();
+  const bool clipped = places.Number(0, 2) > 0;
+  draw(drawn, clipped ? &clip : nullptr);
+  for (int64_t y = 0; y < 7; ++y) {
+    for (int64_t x = 0; x < 9; ++x) {
+      if (!clipped || Inside(clip, x, y)) after(expected.At(x, y), x, y);
+    }
+  }
+  ASSERT_EQ(drawn.bytes, expected.bytes);
+}
+
 TEST(ImageBuffer, FillsAndFramesTouchWhatLiesInRectAndClipAndNothingElse) {
   RandomPlaces places(1);
-  for (uint32_t round = 0; round < 4000; ++round) {
-    GuardedPicture drawn(9, 7, round);
-    GuardedPicture expected = drawn;
+  for (int32_t round = 0; round < 4000 && !HasFailure(); ++round) {
+    SCOPED_TRACE(round);
     const Rect rect = places.Place();
-    const Rect clip = places.Place();
-    const bool clipped = places.Number(0, 2) > 0;
     const int32_t opacity = places.Opacity();
-    const int32_t thickness = places.Edge();
+    const int64_t edge = places.Edge();
     const ColorBGRA color(0x80C04020);
-    const bool frame = places.Number(0, 1) == 0;
-    if (frame) {
-      drawn.DrawFrame(rect, color, thickness, opacity, clipped ? &clip : nullptr);
-    } else {
-      drawn.FillRect(rect, color, opacity, clipped ? &clip : nullptr);
-    }
-    const int64_t edge = thickness;
-    for (int64_t y = 0; y < 7 && !IsEmpty(rect); ++y) {
-      for (int64_t x = 0; x < 9; ++x) {
-        if (clipped && !Inside(clip, x, y)) continue;
-        const bool beside = x >= rect.left && x < rect.right;
-        const bool between = y >= rect.top + edge && y < rect.bottom - edge;
-        int layers = Inside(rect, x, y) ? 1 : 0;
-        if (frame) {
-          layers = (beside && y >= rect.top && y < rect.top + edge ? 1 : 0) +
-                   (beside && y >= rect.bottom - edge && y < rect.bottom ? 1 : 0) +
-                   (between && x >= rect.left && x < rect.left + edge ? 1 : 0) +
-                   (between && x >= rect.right - edge && x < rect.right ? 1 : 0);
-        }
-        ColorBGRA& pixel = expected.At(x, y);
-        for (; layers > 0; --layers) {
-          pixel = opacity >= 256 ? color : PlainComposite(pixel, color, opacity);
-        }
-      }
-    }
-    ASSERT_EQ(drawn.bytes, expected.bytes) << "round " << round << (frame ? ", frame" : ", fill");
+    const auto lay = [&](ColorBGRA& pixel) {
+      pixel = opacity >= 256 ? color : PlainComposite(pixel, color, opacity);
+    };
+    HoldAgainst(
+        places,
+        [&](ImageBuffer& picture, auto clip) { picture.FillRect(rect, color, opacity, clip); },
+        [&](ColorBGRA& pixel, int64_t x, int64_t y) {
+          if (Inside(rect, x, y)) lay(pixel);
+        });
+    HoldAgainst(
+        places,
+        [&](ImageBuffer& picture, auto clip) {
+          picture.DrawFrame(rect, color, static_cast<int32_t>(edge), opacity, clip);
+        },
+        [&](ColorBGRA& pixel, int64_t x, int64_t y) {
+          const bool beside = x >= rect.left && x < rect.right;
+          const bool between = y >= rect.top + edge && y < rect.bottom - edge;
+          if (IsEmpty(rect)) return;
+          if (beside && y >= rect.top && y < rect.top + edge) lay(pixel);
+          if (between && x >= rect.left && x < rect.left + edge) lay(pixel);
+          if (between && x >= rect.right - edge && x < rect.right) lay(pixel);
+          if (beside && y >= rect.bottom - edge && y < rect.bottom) lay(pixel);
+        });
   }
 }
 
 TEST(ImageBuffer, BlendsAndCopiesEachSourcePixelToItsPlaceAndNothingElse) {
   RandomPlaces places(2);
-  for (uint32_t round = 0; round < 6000; ++round) {
-    const GuardedPicture source(8, 6, round + 100);
-    GuardedPicture drawn(9, 7, round);
-    GuardedPicture expected = drawn;
+  const GuardedPicture source(8, 6, 100);
+  for (int32_t round = 0; round < 6000 && !HasFailure(); ++round) {
+    SCOPED_TRACE(round);
     const Rect part = places.Place();
-    const Rect clip = places.Place();
-    const bool clipped = places.Number(0, 2) > 0;
-    const int32_t x0 = places.Edge();
-    const int32_t y0 = places.Edge();
+    const Point at = {places.Edge(), places.Edge()};
     const int32_t opacity = places.Opacity();
-    const bool blend = places.Number(0, 1) == 0;
-    if (blend) {
-      source.BlendTo(drawn, part, x0, y0, opacity, clipped ? &clip : nullptr, false);
-    } else {
-      source.CopyTo(drawn, part, x0, y0, opacity, clipped ? &clip : nullptr);
-    }
-    for (int64_t y = 0; y < 7; ++y) {
-      for (int64_t x = 0; x < 9; ++x) {
-        const int64_t fromX = x - x0 + part.left;
-        const int64_t fromY = y - y0 + part.top;
-        if (!source.Holds(fromX, fromY) || !Inside(part, fromX, fromY)) continue;
-        if (clipped && !Inside(clip, x, y)) continue;
-        const ColorBGRA over = source.Row(static_cast<int32_t>(fromY))[fromX];
-        const double share = std::clamp(opacity, 0, 256) / 256.0;
-        const double alpha = blend ? std::floor(over.alpha * share) : std::max(opacity, 0);
-        ColorBGRA& pixel = expected.At(x, y);
-        pixel = !blend && opacity >= 256 ? over : PlainComposite(pixel, over, alpha);
-      }
-    }
-    ASSERT_EQ(drawn.bytes, expected.bytes) << "round " << round << (blend ? ", blend" : ", copy");
+    const bool blend = round % 2 == 0;
+    HoldAgainst(
+        places,
+        [&](ImageBuffer& picture, auto clip) {
+          if (blend) return source.BlendTo(picture, part, at.x, at.y, opacity, clip, false);
+          source.CopyTo(picture, part, at.x, at.y, opacity, clip);
+        },
+        [&](ColorBGRA& pixel, int64_t x, int64_t y) {
+          const int64_t fromX = x - at.x + part.left;
+          const int64_t fromY = y - at.y + part.top;
+          if (!source.Holds(fromX, fromY) || !Inside(part, fromX, fromY)) return;
+          const ColorBGRA over = source.Row(static_cast<int32_t>(fromY))[fromX];
+          const double share = std::clamp(opacity, 0, 256) / 256.0;
+          const double alpha = blend ? std::floor(over.alpha * share) : opacity;
+          pixel = !blend && opacity >= 256 ? over : PlainComposite(pixel, over, alpha);
+        });
   }
 }
 
-struct Drawing {
-  const char* what;
+struct Conversion {
   float scale;
-  bool physical;      // of the blend
-  Rect logicalRect;   // of fill and blended part
-  Rect expectedRect;  // in physical pixels
-  int32_t logicalX;
-  int32_t expectedX;
+  Rect logical;
+  Rect physical;
 };
 
 TEST(ImageBuffer, ConvertsLogicalCoordinatesEdgeByEdge) {
-  constexpr Drawing kCases[] = {
-      {"doubled", 2.0F, false, {1, 0, 3, 2}, {2, 0, 6, 4}, 1, 2},
-      {"by one and a half, up from the half", 1.5F, false, {1, 1, 2, 3}, {2, 2, 3, 5}, 1, 2},
-      {"toward zero below zero", 1.5F, false, {-3, 0, 2, 2}, {-4, 0, 3, 3}, -1, -1},
-      {"halved", 0.5F, false, {1, 1, 6, 5}, {1, 1, 3, 3}, 3, 2},
-      {"physical blend", 2.0F, true, {1, 0, 3, 2}, {1, 0, 3, 2}, 3, 3},
-      {"a scale that is no number", NAN, false, {0, 0, 4, 4}, {0, 0, 0, 0}, 0, 0},
-      {"a scale below zero", -1.0F, false, {-4, -4, 0, 0}, {0, 0, 0, 0}, 0, 0},
+  constexpr Conversion kCases[] = {
+      {2.0F, {1, 0, 3, 2}, {2, 0, 6, 4}},   {1.5F, {1, 1, 2, 3}, {2, 2, 3, 5}},
+      {1.5F, {-3, 0, 2, 2}, {-4, 0, 3, 3}}, {0.5F, {1, 1, 6, 5}, {1, 1, 3, 3}},
+      {NAN, {0, 0, 4, 4}, {0, 0, 0, 0}},    {-1.0F, {-4, -4, 0, 0}, {4, 4, 0, 0}},
   };
-  for (const Drawing& c : kCases) {
+  for (const Conversion& c : kCases) {
     GuardedPicture source(8, 6, 5);
     GuardedPicture drawn(9, 7, 6);
     GuardedPicture expected = drawn;
+    source.SetScale(c.scale);
+    drawn.SetScale(c.scale);
     drawn.SetScaleAware(true);
-    for (ImageBuffer* picture :
-         {static_cast<ImageBuffer*>(&source), static_cast<ImageBuffer*>(&drawn)}) {
-      picture->SetScale(c.scale);
-    }
-    const ColorBGRA color(0xFF123456);
-    if (!c.physical) {
-      drawn.FillRect({0, 0, 9, 7}, color, 128, &c.logicalRect);
-      drawn.FillRect(c.logicalRect, color, 128, nullptr);
-      expected.FillRect(c.expectedRect, color, 128, nullptr);
-      expected.FillRect(c.expectedRect, color, 128, nullptr);
-    }
-    const Rect part = c.logicalRect;
-    source.BlendTo(drawn, part, c.logicalX, 0, 256, &c.logicalRect, c.physical);
-    source.BlendTo(expected, c.expectedRect, c.expectedX, 0, 256, &c.expectedRect, false);
-    EXPECT_EQ(drawn.bytes, expected.bytes) << c.what;
+    const Rect& from = c.logical;
+    const Rect& to = c.physical;
+    drawn.FillRect({0, 0, 9, 7}, ColorBGRA(0x123456), 128, &from);
+    drawn.FillRect(from, ColorBGRA(0x123456), 128, nullptr);
+    source.BlendTo(drawn, from, from.left, from.top, 256, &from, false);
+    source.CopyTo(drawn, from, 3, 0, 100, &from);
+    for (int i = 0; i < 2; ++i) expected.FillRect(to, ColorBGRA(0x123456), 128, nullptr);
+    source.BlendTo(expected, to, to.left, to.top, 256, &to, false);
+    if (!std::isnan(c.scale)) source.CopyTo(expected, from, 3, 0, 100, &from);
+    EXPECT_EQ(drawn.bytes, expected.bytes) << c.scale;
   }
 }
 
@@ -176,16 +157,6 @@ TEST(ImageBuffer, APictureOfScaleOneIsStretchedOnAScreenOfScaleTwo) {
     }
     EXPECT_EQ(screen.bytes, expected.bytes) << (blend ? "blend" : "copy");
   }
-}
-
-TEST(ImageBuffer, AScreenThatConvertsNothingTakesPicturesOfAnyScaleAsTheyAre) {
-  GuardedPicture icon(3, 2, 1);
-  GuardedPicture screen(9, 7, 2);
-  GuardedPicture expected = screen;
-  icon.CopyTo(expected, icon.Bounds(), 1, 1, 100, nullptr);
-  icon.SetScale(2.0F);
-  icon.CopyTo(screen, icon.Bounds(), 1, 1, 100, nullptr);
-  EXPECT_EQ(screen.bytes, expected.bytes);
 }
 
 TEST(ImageBuffer, APictureCanBeDrawnOntoItself) {
