@@ -14,7 +14,7 @@ class Polygon {
   static constexpr size_t kRoomStep = 4000;
   // What all polygons of a path may have together: far more than any shape needs. It bounds the
   // time that one path takes.
-  static constexpr size_t kMostPathPoints = size_t{1} << 18;
+  static constexpr size_t kMostPathPoints = size_t{1} << 17;
 
   // Right and bottom are one past the last corner, and wider than int32 therefore.
   struct Extent {

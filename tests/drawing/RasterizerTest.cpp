@@ -168,6 +168,61 @@ TEST(Rasterizer, AShorterPictureShowsTheSameRows) {
   }
 }
 
+// The last point is taken for the first, and a point that is there twice bends no line.
+TEST(Rasterizer, APolygonComesBackToItsStart) {
+  const std::vector<PathPoint> corners = {{2, 3}, {17, 2}, {17, 2}, {15, 14}};
+  for (const double lineWidth : {0.0, 1.5}) {
+    PathBuilder plain;
+    AddPolygon(plain, {{2, 3}, {17, 2}, {15, 14}});
+    PathBuilder doubled;
+    AddPolygon(doubled, corners);
+    EXPECT_EQ(CoverageOf(doubled, 20, 16, lineWidth), CoverageOf(plain, 20, 16, lineWidth));
+  }
+  PathBuilder open;
+  open.MoveTo(corners[0]);
+  for (const PathPoint& corner : {corners[1], corners[3], PathPoint{6, 15}}) open.LineTo(corner);
+  open.ClosePath();
+  PathBuilder closed;
+  AddPolygon(closed, {corners[0], corners[1], corners[3]});
+  EXPECT_EQ(CoverageOf(open, 20, 16), CoverageOf(closed, 20, 16));
+}
+
+// Two quarters of a disc of radius 8 and two triangles of 32 pixels.
+TEST(Rasterizer, CurvesAndArcsGoOnFromWhereTheLastOneEnded) {
+  PathBuilder path;
+  path.MoveTo({10, 2});
+  path.CubicTo({12, 4}, {16, 8}, {18, 10});
+  path.ArcTo({10, 10}, {10, 18});
+  path.ArcTo({10, 10}, {2, 10});
+  path.LineTo({10, 2});
+  path.ClosePath();
+  double area = 0;
+  for (const int32_t coverage : CoverageOf(path, 20, 20)) area += coverage / 255.0;
+  EXPECT_NEAR(area, 164.5, 2);
+}
+
+TEST(CrossingRows, KeepsEqualCrossingsInTheirOrder) {
+  CrossingRows rows;
+  std::mt19937 random(8);
+  for (const int32_t count : {0, 1, 2, 3, 7, 64, 1000}) {
+    rows.Reset(2);
+    std::vector<std::array<int32_t, 2>> expected;
+    for (int32_t i = 0; i < count; ++i) {
+      const auto x = static_cast<int32_t>(random() % 30) - 15;
+      rows.Add(1, x, i);
+      expected.push_back({x, i});
+    }
+    std::ranges::sort(expected);
+    std::vector<std::array<int32_t, 2>> got;
+    for (const Crossing* crossing = rows.Sorted(1); crossing != nullptr;
+         crossing = crossing->next) {
+      got.push_back({crossing->x, crossing->winding});
+    }
+    EXPECT_EQ(got, expected) << count;
+    EXPECT_EQ(rows.Sorted(0), nullptr);
+  }
+}
+
 TEST(Rasterizer, AStrokeStaysWithinAClockwiseShape) {
   for (const double radius : {0.0, 1.0, 3.0, 6.5}) {
     for (const double lineWidth : {0.25, 1.0, 2.5}) {
@@ -190,8 +245,8 @@ TEST(Rasterizer, ScaleTwoDrawsTheShapeOfTwiceTheSize) {
   scaled.SetScaleAware(true);
   ImageBuffer plain;
   plain.Allocate(80, 60, false);
-  const Rect clip = {4, 2, 33, 27};
-  const Rect doubledClip = {8, 4, 66, 54};
+  const Rect clip = {4, 2, 39, 27};
+  const Rect doubledClip = {8, 4, 78, 54};
   for (const double lineWidth : {0.0, 1.0}) {
     PathBuilder path;
     path.SetRoundRect({3, 5, 37, 22}, 3, true, true, false, true);
@@ -202,8 +257,8 @@ TEST(Rasterizer, ScaleTwoDrawsTheShapeOfTwiceTheSize) {
     SharedRasterizer().DrawPath(path, plain, kInk, 200, false, &doubledClip, &doubledBounds,
                                 lineWidth * 2);
     EXPECT_TRUE(SamePixels(scaled, plain));
-    EXPECT_EQ(doubledBounds, (Rect{8, 10, 66, 45}));
-    EXPECT_EQ(bounds, (Rect{4, 5, 33, 23}));
+    EXPECT_EQ(doubledBounds, (Rect{8, 10, 75, 45}));
+    EXPECT_EQ(bounds, (Rect{4, 5, 38, 23}));
   }
 }
 
