@@ -10,7 +10,7 @@ int main(int argc, char** argv) {
   std::filesystem::create_directories(folder);
   for (const PngKind& kind : AllPngKinds()) {
     const std::vector<uint8_t> bytes = MakePng(kind, 5, 4).bytes;
-    std::ofstream file(folder / (Describe(kind) + ".png"), std::ios::binary);
+    std::ofstream file(folder / (kind.What() + ".png"), std::ios::binary);
     file.write(reinterpret_cast<const char*>(bytes.data()),
                static_cast<std::streamsize>(bytes.size()));
   }
