@@ -35,9 +35,10 @@ constexpr IconCase kIconCases[] = {
     {"Icon.png", 1.0F, false, 7, 5, 1.0F},     {"Single.png", 1.0F, false, 39, 32, 1.0F},
     {"Single.png", 2.0F, false, 39, 32, 1.0F}, {"Single.png", 1.5F, true, 58, 48, 1.5F},
     {"Single.png", 1e9F, true, 39, 32, 1.0F},  {"Missing.png", 2.0F, false, 7, 5, 1.0F},
-    {"Damaged.png", 2.0F, false, 7, 5, 2.0F},  {"Icon.Png", 2.0F, false, 7, 5, 2.0F},
+    {"Damaged.png", 1.5F, false, 7, 5, 1.5F},  {"Icon.Png", 2.0F, false, 7, 5, 2.0F},
     {"Icon.jpg", 2.0F, false, 7, 5, 2.0F},     {"Icon.jpeg", 2.0F, false, 7, 5, 9.0F},
     {".png", 2.0F, false, 7, 5, 9.0F},         {"", 2.0F, false, 7, 5, 9.0F},
+    {"Single.png", 0.01F, true, 39, 32, 1.0F},
 };
 
 TEST(ScaledIcon, ComesAtTheScaleOfWhatThereIs) {

@@ -83,6 +83,7 @@ TEST(PngFile, APieceOfAPngOrOneWithAChangedByteIsRefused) {
       ImageBuffer image;
       const std::vector<uint8_t> piece(whole.data(), whole.data() + i);
       EXPECT_EQ(CodeOf(piece, image), i < 8 ? App::kWrongFormat : App::kLibpngFailed);
+      EXPECT_STREQ(PngFile::lastError.data(), i < 8 ? "" : "Read Error");
       std::vector<uint8_t> changed = whole;
       changed[i] ^= 0x11U;
       EXPECT_NE(CodeOf(changed, image), 0);
@@ -92,7 +93,8 @@ TEST(PngFile, APieceOfAPngOrOneWithAChangedByteIsRefused) {
 
 TEST(PngFile, OnlyASizeThatTheFileCantHoldIsRefusedBeforeMemoryIsTaken) {
   CountedImage image;
-  EXPECT_EQ(CodeOf(MakePng({}, 1024, 1024, 1).bytes, image), 0) << "as flat as a PNG gets";
+  EXPECT_EQ(CodeOf(MakePng({}, 1023, 1024, 1).bytes, image), 0) << "as flat as a PNG gets";
+  EXPECT_EQ(image.RowBytes(), 1023 * 4);
   std::vector<uint8_t> huge = MakePng({}, 5, 4).bytes;
   for (const size_t side : {16U, 20U}) {  // 20000 x 20000
     huge[side + 2] = 20000 >> 8;
