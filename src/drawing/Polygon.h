@@ -48,7 +48,7 @@ class Polygon {
 
  private:
   struct Free {
-    void operator()(Point* memory) const;
+    void operator()(Point* block) const;
   };
 
   bool Grow();
