@@ -43,8 +43,8 @@ class CrossingPool {
 // A list of crossings for each row.
 class CrossingRows {
  public:
-  // What a path may have together, 16 MB of them: five hundred edges over the whole height of a panel
-  // at scale 2.
+  // What a path may have together, 16 MB of them: five hundred edges over the whole height of a
+  // panel at scale 2.
   static constexpr int64_t kMostCrossings = int64_t{1} << 20;
 
   // Empties `rows` rows, counted from 0. Throws App::ExceptionInfo kOutOfMemory.
