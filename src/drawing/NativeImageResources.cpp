@@ -24,7 +24,7 @@ bool SplitFileName(const std::string& fileName, std::string& stem, std::string& 
 
 // Brings a picture of double resolution to a scale between 1 and 2.
 void Reduce(NativeImageBuffer& picture, float scale) {
-  const ImageBuffer whole(picture);
+  const ImageBuffer whole(static_cast<const ImageBuffer&>(picture));
   const auto reduced = [scale](int32_t length) {
     return Truncate<int32_t>(static_cast<float>(length) * scale * 0.5F);
   };

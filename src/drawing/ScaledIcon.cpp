@@ -9,7 +9,7 @@ namespace {
 
 // Leaves the icon alone where the wanted size can't be had.
 void Rescale(NativeImageBuffer& icon, float wantedScale) {
-  const ImageBuffer source(icon);
+  const ImageBuffer source(static_cast<const ImageBuffer&>(icon));
   const auto scaled = [wantedScale](int32_t length) {
     return Truncate<int32_t>(static_cast<float>(length) * wantedScale);
   };

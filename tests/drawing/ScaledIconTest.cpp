@@ -69,7 +69,7 @@ TEST(ScaledIcon, KeepsThePictureAtAnotherSize) {
   // Every other pixel of a doubled one stands on one of the whole, and a float's dust is cut off.
   for (int32_t y = 0; y < 32; ++y) {
     for (int32_t x = 0; x < 39; ++x) {
-      EXPECT_NEAR(doubled.Row(2 * y)[2 * x].green, green(x, y), 1) << x << ", " << y;
+      EXPECT_NEAR(doubled.Row(y + y)[x + x].green, green(x, y), 1) << x << ", " << y;
     }
   }
 }

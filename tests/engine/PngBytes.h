@@ -63,7 +63,7 @@ inline TestPng MakePng(const PngKind& kind, uint32_t width, uint32_t height, uin
   constexpr size_t kChannels[] = {1, 0, 3, 1, 2, 0, 4};
   TestPng result;
   result.pixelSize = kChannels[kind.colorType] * (kind.depth == 16 ? 2 : 1);
-  result.samples.resize(width * height * result.pixelSize);
+  result.samples.resize(size_t{width} * height * result.pixelSize);
   std::mt19937 random(1);
   if (kind.depth < 8) end = 1U << kind.depth;
   for (uint8_t& sample : result.samples) sample = static_cast<uint8_t>(random() % end);
@@ -80,7 +80,7 @@ inline TestPng MakePng(const PngKind& kind, uint32_t width, uint32_t height, uin
   AddColors(png, info, kind);
   std::vector<png_bytep> rows;
   for (uint32_t y = 0; y < height; ++y) {
-    rows.push_back(&result.samples[y * width * result.pixelSize]);
+    rows.push_back(&result.samples[size_t{y} * width * result.pixelSize]);
   }
   png_set_rows(png, info, rows.data());
   png_write_png(png, info, PNG_TRANSFORM_PACKING, nullptr);

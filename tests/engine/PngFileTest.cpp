@@ -36,7 +36,7 @@ int32_t CodeOf(const std::vector<uint8_t>& bytes, ImageBuffer& image) {
 
 ColorBGRA Expected(const TestPng& png, const PngKind& kind, size_t pixel) {
   const uint8_t* sample = &png.samples[pixel * png.pixelSize];
-  const size_t next = kind.depth / 8;  // a channel's low byte plays no part
+  const auto next = static_cast<size_t>(kind.depth / 8);  // a channel's low byte plays no part
   ColorBGRA color(0xFF000000U);
   if (kind.colorType == PNG_COLOR_TYPE_PALETTE) {
     color.red = sample[0];
@@ -64,9 +64,10 @@ TEST(PngFile, EveryKindOfEightBitsOrMoreComesOutAsItsColors) {
     const int32_t code = CodeOf(png.bytes, image);
     ASSERT_EQ(code, kind.depth < 8 ? App::kWrongFormat : 0) << PngFile::lastError.data();
     EXPECT_EQ(image.allocations, 1);
+    size_t pixel = 0;
     for (int32_t y = 0; y < 11 && code == 0; ++y) {
       for (int32_t x = 0; x < 13; ++x) {
-        const ColorBGRA expected = Expected(png, kind, static_cast<size_t>(y * 13 + x));
+        const ColorBGRA expected = Expected(png, kind, pixel++);
         EXPECT_EQ(image.Row(y)[x], expected) << x << ", " << y;
       }
       EXPECT_EQ(image.Row(y)[13], ColorBGRA()) << "the padding of row " << y;
