@@ -17,4 +17,3 @@ void DrawBlendPage(ImageBuffer& page);
 // Text as it stands on panels, the widths of pairs, and every glyph of every font.
 void DrawTextPage(ImageBuffer& page);
 void DrawGlyphsPage(ImageBuffer& page);
-void DrawBlendPage(ImageBuffer& page);

@@ -14,13 +14,8 @@ constexpr int kWidth = 640;
 constexpr int kHeight = 400;
 
 const std::vector<Page> kPages = {
-    {"icons", DrawIconPage},
-    {"buttons", DrawButtonPage},
-    {"shapes", DrawShapePage},
-    {"blends", DrawBlendPage},
-    {"text", DrawTextPage},
-    {"glyphs", DrawGlyphsPage},
-    {"blends", DrawBlendPage},
+    {"icons", DrawIconPage},   {"buttons", DrawButtonPage}, {"shapes", DrawShapePage},
+    {"blends", DrawBlendPage}, {"text", DrawTextPage},      {"glyphs", DrawGlyphsPage},
 };
 
 void Write(const ImageBuffer& picture, const std::filesystem::path& file) {
