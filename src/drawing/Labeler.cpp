@@ -7,7 +7,7 @@
 #include <string_view>
 
 #include "drawing/ClippedPlacement.h"
-#include "drawing/Compositing.h"
+#include "drawing/CoveragePaint.h"
 #include "engine/ExceptionInfo.h"
 #include "platform/Truncate.h"
 
@@ -75,14 +75,18 @@ int64_t EdgeContact(const Font& font, int32_t a, int32_t b, int32_t count) {
   return solidPairs >= 3 ? kSolidContact : sum;
 }
 
-void StorePixel(ColorBGRA& pixel, const TextStyle& style, int32_t alpha) {
-  const auto mix = [alpha](uint8_t from, uint8_t to) {
-    if (alpha == 255) return to;
-    return static_cast<uint8_t>((((to - from) * alpha) >> 8) + from);
-  };
-  pixel.blue = mix(style.background.blue, style.color.blue);
-  pixel.green = mix(style.background.green, style.color.green);
-  pixel.red = mix(style.background.red, style.color.red);
+// Between the background and the colour by the coverage; alpha stays.
+void StoreMix(const CoverageRun& run, const TextStyle& style, int32_t opacity) {
+  for (int32_t i = 0; i < run.count; ++i) {
+    const int32_t alpha = (run.coverage[i] * opacity) >> 8;
+    const auto mix = [alpha](uint8_t from, uint8_t to) {
+      return alpha == 255 ? to : static_cast<uint8_t>((((to - from) * alpha) >> 8) + from);
+    };
+    ColorBGRA& pixel = run.pixels[i];
+    pixel.blue = mix(style.background.blue, style.color.blue);
+    pixel.green = mix(style.background.green, style.color.green);
+    pixel.red = mix(style.background.red, style.color.red);
+  }
 }
 
 // The style's clip is in physical pixels here. A place beyond int32 is as unseen as the last one
@@ -96,16 +100,15 @@ void DrawGlyph(ImageBuffer& buffer, const Font& font, int32_t code, int64_t x, i
                                    buffer.ClippedBounds(style.clip));
   if (!place) return;
   const int32_t opacity = std::clamp(style.opacity, 0, 256);
-  for (int32_t row = place->source.top; row < place->source.bottom; ++row) {
-    const uint8_t* coverage = font.Coverage(row, first);
-    ColorBGRA* pixel = buffer.Row(place->y + row - place->source.top) + place->x;
-    for (int32_t column = place->source.left; column < place->source.right; ++column, ++pixel) {
-      const int32_t alpha = (coverage[column] * opacity) >> 8;
-      if (style.blend) {
-        CompositePixel(*pixel, style.color, alpha);
-      } else {
-        StorePixel(*pixel, style, alpha);
-      }
+  const Rect& part = place->source;
+  for (int32_t row = part.top; row < part.bottom; ++row) {
+    const CoverageRun run = {font.Coverage(row, first + part.left),
+                             buffer.Row(place->y + row - part.top) + place->x,
+                             part.right - part.left};
+    if (style.blend) {
+      PaintCoverage(run, style.color, opacity);
+    } else {
+      StoreMix(run, style, opacity);
     }
   }
 }

@@ -1,4 +1,4 @@
-// Symbols as polygons on a square of 8 x 8, sampled 16 x 16 to the pixel.
+// Symbols as polygons on a square of 8 x 8, sampled 19 x 19 to the pixel.
 #include "tools/fonts/Symbols.h"
 
 #include <span>
@@ -11,7 +11,7 @@ struct Corner {
 };
 
 constexpr double kSquare = 8;
-constexpr int kSamples = 16;
+constexpr int kSamples = 19;
 
 constexpr Corner kCheckMark[] = {{0.4, 4.3}, {1.5, 3.2}, {3.0, 4.7},
                                  {6.5, 1.0}, {7.6, 2.1}, {3.0, 6.9}};
