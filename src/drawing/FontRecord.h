@@ -18,15 +18,15 @@ inline constexpr int32_t kLastGlyphCode = 126;
 //     |   space    |      "!"      |     ...      |   unused    |
 //     row 0        row after row, one byte a pixel, 0 empty, 255 full
 struct FontRecord {
-  uint16_t spacing;      // pixels between glyphs
-  uint16_t nominalSize;  // informative
-  uint16_t rows;         // height of the strip and of a line
-  uint16_t stride;       // bytes from one row of the strip to the next
-  std::array<uint16_t, 96> columns;
-  uint16_t zero;
-  std::array<uint16_t, 95> reserved;
-  std::array<uint16_t, 96> inkTops;
-  std::array<uint16_t, 96> inkBottoms;
+  uint16_t spacing = 0;      // pixels between glyphs
+  uint16_t nominalSize = 0;  // informative
+  uint16_t rows = 0;         // height of the strip and of a line
+  uint16_t stride = 0;       // bytes from one row of the strip to the next
+  std::array<uint16_t, 96> columns = {};
+  uint16_t zero = 0;
+  std::array<uint16_t, 95> reserved = {};
+  std::array<uint16_t, 96> inkTops = {};
+  std::array<uint16_t, 96> inkBottoms = {};
 };
 
 static_assert(offsetof(FontRecord, columns) == std::size_t{2} * 4);
@@ -39,7 +39,7 @@ static_assert(sizeof(FontRecord) == 776);
 template <size_t Rows, size_t Stride>
 struct StoredFont {
   FontRecord record;
-  std::array<uint8_t, Rows * Stride> strip;
+  std::array<uint8_t, (Rows * Stride)> strip = {};
 };
 
 static_assert(sizeof(StoredFont<8, 740>) == sizeof(FontRecord) + std::size_t{8} * 740);
@@ -82,6 +82,6 @@ class Font {
  private:
   int32_t Column(int32_t entry) const { return record->columns[static_cast<size_t>(entry)]; }
 
-  const FontRecord* record;
-  const uint8_t* strip;
+  const FontRecord* record = nullptr;
+  const uint8_t* strip = nullptr;
 };

@@ -47,7 +47,7 @@ constexpr Font kSymbols2xFont(kSymbols2x);
 constexpr float kTwinsAboveScale = 1.5F;
 
 struct TwinEntry {
-  const Font* font;
+  const Font* font = nullptr;
   FontTwin twin;
 };
 

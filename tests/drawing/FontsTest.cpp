@@ -60,7 +60,7 @@ TEST(Fonts, RecordsAreWellFormedAndHaveInkWhereTheySay) {
 TEST(Fonts, SymbolsAreACheckMarkAndADiamond) {
   for (const Font* font : {&FontSymbols(), &FontSymbols2x()}) {
     const int32_t last = font->Rows() - 1;
-    for (const int32_t code : {'4', 'u'}) {
+    for (const int32_t code : {int32_t{'4'}, int32_t{'u'}}) {
       ASSERT_EQ(font->EndColumn(code) - font->FirstColumn(code), last + 1);
       int32_t unlike = 0;
       for (int32_t i = 0; i < (last + 1) * (last + 1); ++i) {
@@ -79,14 +79,14 @@ TEST(Fonts, SymbolsAreACheckMarkAndADiamond) {
 TEST(Fonts, TwinsStandInAboveAScaleOfOneAndAHalf) {
   const struct {
     const Font& font;
-    float scale;
     const Font& twin;
+    float scale;
     float ratio;
   } kCases[] = {
-      {FontSmall(), 2, FontSmall2x(), 2},        {FontDefault(), 2, FontDefault2x(), 2},
-      {FontMenu(), 2, FontDefault2x(), 2},       {FontBold(), 1.51F, FontBold2x(), 2},
-      {FontSymbols(), 3, FontSymbols2x(), 1.8F}, {FontBold(), 1.5F, FontBold(), 1},
-      {FontDefault2x(), 2, FontDefault2x(), 1},
+      {FontSmall(), FontSmall2x(), 2, 2},        {FontDefault(), FontDefault2x(), 2, 2},
+      {FontMenu(), FontDefault2x(), 2, 2},       {FontBold(), FontBold2x(), 1.51F, 2},
+      {FontSymbols(), FontSymbols2x(), 3, 1.8F}, {FontBold(), FontBold(), 1.5F, 1},
+      {FontDefault2x(), FontDefault2x(), 2, 1},
   };
   for (const auto& c : kCases) {
     const FontTwin twin = TwinAtScale(c.font, c.scale);
