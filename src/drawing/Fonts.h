@@ -5,7 +5,7 @@
 
 const Font& FontSmall();    // 10: titles of drop-downs
 const Font& FontDefault();  // 11: buttons and panels
-const Font& FontMenu();     // 11, drawn lighter and narrower: menu items
+const Font& FontMenu();     // 11, a second cut: menu items
 const Font& FontBold();     // 12: headings
 const Font& FontSymbols();  // 10: "4" is a check mark, "u" a diamond
 

@@ -32,7 +32,7 @@ class Labeler {
   // screen. `font` is borrowed until the next call and may be null for none.
   //
   // kernThreshold   how much two letters may touch, in coverage
-  // kernLimit       how many pixels they may move together, less one; both have fixed values of
+  // kernLimit       how many pixels they may move together, less two; both have fixed values of
   //                 their own for a twin
   void SetFont(const Font* font, int32_t kernThreshold = 128, int32_t kernLimit = 3,
                bool allowTwin = true);
