@@ -206,8 +206,9 @@ TEST_F(LabelerTest, DrawsAsPlainArithmeticDoesAndNothingElse) {
     style.clip = round % 5 < 2 ? &clip : nullptr;
     style.opacity = places.Opacity();
     style.tracking = places.Number(-2, 2);
-    const std::string text =
-        round % 7 == 0 ? everyByte : everyByte.substr(places.Number(30, 120), 4);
+    const std::string text = round % 7 == 0
+                                 ? everyByte
+                                 : everyByte.substr(static_cast<size_t>(places.Number(30, 120)), 4);
     const bool fromRight = round % 4 == 3;
     const int32_t x = places.Edge();
     const int32_t y = places.Edge();
@@ -224,11 +225,11 @@ TEST_F(LabelerTest, TextStandsInARectangle) {
   labeler.SetFont(&FontDefault());
   const int32_t width = labeler.MeasureString("1/4", 0);
   const struct {
-    const char* what;
+    const char* what = nullptr;
     Rect rect;
-    TextAlignment alignment;
-    int32_t x;
-    int32_t y;
+    TextAlignment alignment = TextAlignment::kLeft;
+    int32_t x = 0;
+    int32_t y = 0;
   } kCases[] = {
       {"a line high", {5, 4, 60, 16}, TextAlignment::kLeft, 5, 5},
       {"18 high, centred", {0, 0, width + 9, 18}, TextAlignment::kCentre, 4, 4},
