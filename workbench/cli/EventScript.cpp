@@ -1,6 +1,7 @@
 // Parses event scripts.
 #include "workbench/cli/EventScript.h"
 
+#include <algorithm>
 #include <array>
 #include <charconv>
 #include <fstream>
@@ -50,8 +51,9 @@ class Words {
 std::string Shown(std::string_view word) {
   constexpr size_t kMostLetters = 40;
   if (word.empty()) return "nothing";
-  const bool isLong = word.size() > kMostLetters;
-  return "\"" + std::string(word.substr(0, kMostLetters)) + (isLong ? "...\"" : "\"");
+  std::string text(word.substr(0, kMostLetters));
+  std::replace(text.begin(), text.end(), '\0', '?');  // a message ends at its first zero
+  return "\"" + text + (word.size() > kMostLetters ? "...\"" : "\"");
 }
 
 int32_t TakeNumber(Words& words, const char* what, int32_t least, int32_t most) {
