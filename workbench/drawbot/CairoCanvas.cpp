@@ -10,6 +10,9 @@
 
 namespace {
 
+// How far a curve may be off, in pixels: cairo's own tenth makes small circles visibly smaller.
+constexpr double kCurveTolerance = 0.01;
+
 cairo_antialias_t AntiAliasOf(DRAWBOT_AntiAliasPolicy policy) {
   if (policy == kDRAWBOT_AntiAliasPolicy_None) return CAIRO_ANTIALIAS_NONE;
   return policy == kDRAWBOT_AntiAliasPolicy_High ? CAIRO_ANTIALIAS_BEST : CAIRO_ANTIALIAS_GRAY;
@@ -214,6 +217,7 @@ class CairoCanvas : public PictureCanvas {
   CairoContext Begin(const DrawState& state, const DRAWBOT_ColorRGBA& color) const {
     CairoContext context(cairo_create(surface.get()));
     cairo_set_antialias(context.get(), AntiAliasOf(state.antiAlias));
+    cairo_set_tolerance(context.get(), kCurveTolerance);
     const ClipBox& clip = state.clip;
     Tracer(context.get(), toPicture)
         .Trace({{{PathStep::Kind::kRect,

@@ -1,4 +1,4 @@
-// Text in the system's plain font, cut to the width that it may take.
+// Text in one font, so that pictures are alike wherever it is installed, cut to its width.
 #include <cmath>
 
 #include "workbench/drawbot/CairoObjects.h"
@@ -65,7 +65,7 @@ void ChooseFont(cairo_t* context, float size) {
   cairo_font_options_set_hint_style(options.get(), CAIRO_HINT_STYLE_NONE);
   cairo_font_options_set_hint_metrics(options.get(), CAIRO_HINT_METRICS_OFF);
   cairo_set_font_options(context, options.get());
-  cairo_select_font_face(context, "sans-serif", CAIRO_FONT_SLANT_NORMAL, CAIRO_FONT_WEIGHT_NORMAL);
+  cairo_select_font_face(context, "DejaVu Sans", CAIRO_FONT_SLANT_NORMAL, CAIRO_FONT_WEIGHT_NORMAL);
   cairo_set_font_size(context, size);
 }
 
