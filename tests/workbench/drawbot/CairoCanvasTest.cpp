@@ -82,7 +82,9 @@ TEST(CairoCanvas, LaysAPenWithItsMiddleOnTheCoordinates) {
 TEST(CairoCanvas, DrawsThroughMatrixAndClip) {
   BlackCanvas canvas;
   canvas.state.matrix = canvas.state.matrix.After(FromHost({{{2, 0, 0}, {0, 2, 0}, {1, 1, 1}}}));
-  canvas.state.Clip({0, 20, 2, 10});  // 1 to 5 and 41 on, on the surface
+  canvas.state.Clip({-50, -50, 100, 100});
+  canvas.state.Clip({0, 20, 2, 10});            // 1 to 5 and 41 on, on the surface
+  canvas.state.Clip({-100, -100, 1000, 1000});  // a clip only narrows
   EXPECT_EQ(canvas.state.ClipBounds().left, 1);
   EXPECT_EQ(canvas.state.ClipBounds().width, 4);
   canvas.Fill({Rect(1, 20, 10, 2)});
@@ -122,6 +124,13 @@ TEST(CairoCanvas, ShrinksAnImageOfTwiceTheSizeToTheMeanOfItsPixels) {
   EXPECT_NEAR(canvas.At(4, 2).green, 60, 1);
   EXPECT_EQ(canvas.At(4, 2).blue, 0) << "a colour under alpha 0 shows";
   EXPECT_NEAR(canvas.Light(), 60 / 255.0, 0.01);
+}
+
+TEST(CairoCanvas, LetsNoGroundInAtTheEdgesOfAnImageEnlarged) {
+  BlackCanvas canvas;
+  canvas.state.matrix = {4, 0, 0, 0, 4, 0};
+  canvas.canvas->PlaceImage(canvas.state, {1, 1, {0xFFFFFFFFU}}, {1, 10}, 1.0F);
+  EXPECT_NEAR(canvas.Light(), 16.0, 0.01);
 }
 
 TEST(CopyImage, TakesEachLayoutForWhatItIs) {

@@ -57,8 +57,8 @@ TEST(DrawText, KeepsToTheWidthThatItMayTake) {
 
 TEST(Utf8From, TurnsEveryCodePointAndMarksHalves) {
   EXPECT_EQ(Utf8From(u"A\u00E4\u20AC\U0001F600"), "A\xC3\xA4\xE2\x82\xAC\xF0\x9F\x98\x80");
-  const char16_t halves[] = {0xDC00, 'x', 0xD83D};
-  EXPECT_EQ(Utf8From({halves, 3}), "\xEF\xBF\xBDx\xEF\xBF\xBD");
+  const char16_t halves[] = {0xDC00, 'x', 0xD83D, 'y', 0xD83D};
+  EXPECT_EQ(Utf8From({halves, 5}), "\xEF\xBF\xBDx\xEF\xBF\xBDy\xEF\xBF\xBD");
 }
 
 }  // namespace

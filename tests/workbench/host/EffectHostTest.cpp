@@ -67,6 +67,7 @@ constexpr RudeCase kRudeCases[] = {
     {"backwards", "keyframe 2 of Output: time not behind keyframe 1"},
     {"NaN", "keyframe 1 of Output: the value is no finite number"},
     {"NaN", "keyframe 1 of Output: it was given no value"},
+    {"foreign effect", "register_ui: effect_ref is not the one of this call"},
     {"write params", "parameter 1 was written to"},
     {"throw", "something was thrown out of the entry point"},
     {"endless", "return_msg has no end"},

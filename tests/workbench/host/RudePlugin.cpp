@@ -109,6 +109,11 @@ constexpr Deed kDeeds[] = {
      [](Call& c) {
        WriteKeyframes(c, {{5, 30}}, NAN, 3);
      }},
+    {"foreign effect",
+     [](Call& c) {
+       PF_CustomUIInfo info{};
+       c.in->inter.register_ui(nullptr, &info);
+     }},
     {"write params", [](Call& c) { c.params[1]->u.fd.value = 7; }},
     {"throw", [](Call&) { throw std::runtime_error("rude"); }},
     {"endless", [](Call& c) { std::memset(c.out->return_msg, 'x', sizeof c.out->return_msg); }},
