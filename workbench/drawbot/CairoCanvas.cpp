@@ -41,6 +41,14 @@ class Tracer {
     for (const PathStep& step : path.steps) Add(step);
   }
 
+  void AddRect(double left, double top, double width, double height) {
+    MoveTo(left, top);
+    LineTo(left + width, top);
+    LineTo(left + width, top + height);
+    LineTo(left, top + height);
+    cairo_close_path(context);
+  }
+
  private:
   DrawPoint At(double x, double y) const {
     const DrawPoint point = matrix.Apply({x, y});
@@ -62,14 +70,6 @@ class Tracer {
     const DrawPoint b = At(control2.x, control2.y);
     const DrawPoint c = At(end.x, end.y);
     cairo_curve_to(context, a.x, a.y, b.x, b.y, c.x, c.y);
-  }
-
-  void AddRect(double left, double top, double width, double height) {
-    MoveTo(left, top);
-    LineTo(left + width, top);
-    LineTo(left + width, top + height);
-    LineTo(left, top + height);
-    cairo_close_path(context);
   }
 
   // As curves of up to a quarter turn, since a matrix may make an ellipse of the circle.
@@ -220,10 +220,8 @@ class CairoCanvas : public PictureCanvas {
     cairo_set_tolerance(context.get(), kCurveTolerance);
     const ClipBox& clip = state.clip;
     Tracer(context.get(), toPicture)
-        .Trace({{{PathStep::Kind::kRect,
-                  {static_cast<float>(clip.left), static_cast<float>(clip.top),
-                   static_cast<float>(std::max(clip.right - clip.left, 0.0)),
-                   static_cast<float>(std::max(clip.bottom - clip.top, 0.0))}}}});
+        .AddRect(clip.left, clip.top, std::max(clip.right - clip.left, 0.0),
+                 std::max(clip.bottom - clip.top, 0.0));
     cairo_clip(context.get());
     cairo_set_source_rgba(context.get(), color.red, color.green, color.blue, color.alpha);
     return context;

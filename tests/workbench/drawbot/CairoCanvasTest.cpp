@@ -100,6 +100,7 @@ TEST(CairoCanvas, StaysUsableBehindMatricesAndPensOfAnyKind) {
         DrawMatrix{1e300, 0, 0, 0, 1e300, 0}, DrawMatrix{1, 0, 1e300, 0, 1, -1e300},
         DrawMatrix{1e-200, 0, 0, 0, 1e-100, 0}}) {
     DrawState state{matrix, kEverywhere};
+    state.Clip({-9, -9, 9000, 9000});
     const DrawPath path{{Rect(0, 100, 1, 1), {PathStep::Kind::kCurve, {1e38F, -1e38F}}}};
     canvas.canvas->FillPath(state, kWhite, path, kDRAWBOT_FillType_EvenOdd);
     canvas.canvas->StrokePath({{}, {}}, {kWhite, FLT_MAX}, path);
