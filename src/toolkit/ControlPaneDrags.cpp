@@ -4,19 +4,10 @@
 
 #include "toolkit/ControlPane.h"
 #include "toolkit/ControlWatch.h"
+#include "toolkit/PopupPlacement.h"
 #include "toolkit/RectAlgebra.h"
 
 namespace {
-
-// Shifted inside `area`, one edge after the other: the last ones win where it is too large.
-Rect ShiftedInside(Rect rect, const Rect& area) {
-  if (IsEmpty(area)) return rect;
-  if (rect.left < area.left) rect = MovedBy(rect, int64_t{area.left} - rect.left, 0);
-  if (rect.top < area.top) rect = MovedBy(rect, 0, int64_t{area.top} - rect.top);
-  if (rect.right > area.right) rect = MovedBy(rect, int64_t{area.right} - rect.right, 0);
-  if (rect.bottom > area.bottom) rect = MovedBy(rect, 0, int64_t{area.bottom} - rect.bottom);
-  return rect;
-}
 
 // Which edges each zone moves.
 struct ZoneEdges {
@@ -57,7 +48,7 @@ void ControlPane::DragMove(WindowContext* /*context*/, const Point& point) {
   const Rect size = GetLocalBounds();
   const Rect moved =
       MovedBy(size, int64_t{target.x} - downPointLocal.x, int64_t{target.y} - downPointLocal.y);
-  StoreDraggedBounds(ShiftedInside(moved, owner->GetLocalBounds()), false);
+  StoreDraggedBounds(ShiftedInto(moved, owner->GetLocalBounds()), false);
 }
 
 void ControlPane::DragResize(WindowContext* /*context*/, const Point& point) {
