@@ -1,11 +1,13 @@
 // The global record's beginning and end.
 #include "shell/GlobalCommands.h"
 
+#include "gradient/CreateCustomPanels.h"
 #include "host/HandleLock.h"
 #include "host/HostApplication.h"
 #include "host/PluginHost_AE_Impl.h"
 #include "shell/GlobalRecord.h"
 #include "shell/PluginIdentity.h"
+#include "toolkit/PanelRegistry.h"
 
 PF_Err SetUpGlobal(PF_InData* in_data, PF_OutData* out_data) {
   if (IsPremiere(in_data)) return PF_Interrupt_CANCEL;
@@ -20,12 +22,14 @@ PF_Err SetUpGlobal(PF_InData* in_data, PF_OutData* out_data) {
     if (!record) return record.Error();
     const PluginHost_AE_Impl host(in_data, out_data, nullptr, nullptr);
     *record = GlobalRecord{};
+    CreateCustomPanels();
   }
   out_data->global_data = handle.Release();
   return PF_Err_NONE;
 }
 
 PF_Err SetDownGlobal(PF_InData* in_data, PF_OutData* out_data) {
+  DestroyCustomPanels();
   const PF_Handle handle = in_data->global_data;
   PF_Err error = PF_Err_NONE;
   if (handle != nullptr) {

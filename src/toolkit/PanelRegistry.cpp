@@ -2,7 +2,6 @@
 #include "toolkit/PanelRegistry.h"
 
 #include <map>
-#include <memory>
 
 #include "toolkit/CustomPanel.h"
 #include "toolkit/DestroyedControls.h"
@@ -23,8 +22,10 @@ Panels& Registered() {
 
 }  // namespace
 
-void RegisterCustomPanel(CustomPanel* panel) {
-  if (panel != nullptr) Registered()[panel->GetId()].reset(panel);
+void RegisterCustomPanel(std::unique_ptr<CustomPanel> panel) {
+  if (panel == nullptr) return;
+  std::unique_ptr<CustomPanel>& place = Registered()[panel->GetId()];
+  place.swap(panel);
 }
 
 CustomPanel* FindCustomPanel(int32_t panelId) {

@@ -2,11 +2,12 @@
 #pragma once
 
 #include <cstdint>
+#include <memory>
 
 class CustomPanel;
 
-// Takes the panel over; one of the same id before it is deleted.
-void RegisterCustomPanel(CustomPanel* panel);
+// One of the same id that was there before is deleted.
+void RegisterCustomPanel(std::unique_ptr<CustomPanel> panel);
 
 // Null if absent.
 CustomPanel* FindCustomPanel(int32_t panelId);

@@ -3,6 +3,8 @@
 
 #include <algorithm>
 
+#include "drawing/Labeler.h"
+
 namespace {
 
 // One object for the library's life, so that a paint that is under way keeps a valid buffer even
@@ -25,7 +27,7 @@ ImageBuffer* ScratchBuffer() {
 
 NativeImageBuffer& MakeScreenBuffer(int32_t width, int32_t height) {
   NativeImageBuffer& buffer = Shared();
-  buffer.Release();
+  DestroyScreenBuffer();
   buffer.Allocate(width, height, false);
   return buffer;
 }
@@ -39,6 +41,15 @@ bool EnsureScreenBuffer(int32_t width, int32_t height) {
   return true;
 }
 
+void ScaleScreenBuffer(float scale) {
+  NativeImageBuffer* const buffer = ScreenBuffer();
+  if (buffer == nullptr) return;
+  buffer->SetScale(scale);
+  buffer->SetScaleAware(true);
+  SetScreenScale(scale);
+}
+
 void DestroyScreenBuffer() {
+  SetScreenScale(1.0F);
   Shared().Release();
 }

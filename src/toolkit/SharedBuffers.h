@@ -19,4 +19,8 @@ NativeImageBuffer& MakeScreenBuffer(int32_t width, int32_t height);
 // one will do.
 bool EnsureScreenBuffer(int32_t width, int32_t height);
 
+// Makes drawing in the screen buffer take logical coordinates, of so many pixels each, and text be
+// set for it. Nothing happens without a buffer.
+void ScaleScreenBuffer(float scale);
+
 void DestroyScreenBuffer();

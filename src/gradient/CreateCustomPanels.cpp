@@ -1,0 +1,28 @@
+// The screen buffer and the colour map's panel.
+#include "gradient/CreateCustomPanels.h"
+
+#include <cstdint>
+#include <memory>
+
+#include "toolkit/CustomPanel.h"
+#include "toolkit/PanelRegistry.h"
+#include "toolkit/SharedBuffers.h"
+
+namespace {
+
+constexpr int32_t kScreenBufferSide = 1024;
+constexpr float kScreenBufferScale = 2.0F;
+constexpr int32_t kColorMapPanelId = 12;
+constexpr Rect kColorMapPanelBounds = {0, 0, 306, 130};
+
+}  // namespace
+
+void CreateCustomPanels() {
+  try {
+    if (ScreenBuffer() == nullptr) MakeScreenBuffer(kScreenBufferSide, kScreenBufferSide);
+    ScaleScreenBuffer(kScreenBufferScale);
+    RegisterCustomPanel(std::make_unique<CustomPanel>(kColorMapPanelBounds, kColorMapPanelId));
+  } catch (...) {
+    throw "CreateCustomPanels failed!";
+  }
+}
