@@ -41,8 +41,8 @@ class ControlPane : public PopupContextMenuDelegate {
   // its owner's children.
   ~ControlPane() override;
 
-  // Children, the topmost first. A child that is linked already, this control itself and its
-  // ancestors are refused; null is ignored.
+  // Children, the topmost first. A child that is linked already, a root, this control itself and
+  // its ancestors are refused; null is ignored.
   virtual void AddChild(ControlPane* child, bool atFront);
   virtual void InsertChild(ControlPane* child, int32_t index);
   // The caller owns the child then; its owner field stays. Nothing happens to another's child.

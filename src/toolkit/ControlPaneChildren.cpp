@@ -19,6 +19,7 @@ void ControlPane::InsertChild(ControlPane* child, int32_t index) {
 
 bool ControlPane::CanAdopt(const ControlPane* child) {
   if (child == nullptr || child == this || child->isLinked) return false;
+  if (dynamic_cast<const TopControlPane*>(child) != nullptr) return false;
   if (child->firstWard == nullptr) return true;
   ControlPane* outermost = nullptr;  // of the subtree that this control is in
   for (ControlPane* pane = this; pane != child; pane = pane->owner) {
@@ -48,8 +49,13 @@ void ControlPane::RemoveChild(ControlPane* child) {
   if (!ContainsChild(child)) return;
   const ControlWatch self(this);
   const ControlWatch watchedChild(child);
-  if (TopControlPane* const top = GetTopOwnerPtr()) top->OnChildRemoved(child);
-  if (self && watchedChild && ContainsChild(child)) Unlink(child);
+  TopControlPane* const top = GetTopOwnerPtr();
+  const ControlWatch watchedTop(top);
+  if (top != nullptr) top->OnChildRemoved(child);
+  if (!self || !watchedChild || !ContainsChild(child)) return;
+  Unlink(child);
+  // A hook in there may have given the child the focus again.
+  if (watchedTop) top->Forget(child);
 }
 
 void ControlPane::DeleteChild(ControlPane* child) {

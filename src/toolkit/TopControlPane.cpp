@@ -74,6 +74,10 @@ void TopControlPane::DeletePendingChildren() {
 void TopControlPane::OnParameterChanged(int32_t /*index*/) {}
 
 void TopControlPane::OnChildRemoved(ControlPane* control) {
+  Forget(control);
+}
+
+void TopControlPane::Forget(const ControlPane* control) {
   if (control == nullptr) return;
   const auto leaves = [control](const ControlWatch& held) {
     return held && (held.Get() == control || control->IsDescendant(held.Get()));

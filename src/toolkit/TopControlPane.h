@@ -21,7 +21,7 @@ class TopControlPane : public ControlPane, public ParameterOwner {
   void UpdateTree() override;
   void OnParameterChanged(int32_t index) override;
 
-  // Forgets a control that leaves the tree, and all in it.
+  // A control is about to leave the tree: forgets it and all under it.
   virtual void OnChildRemoved(ControlPane* control);
   // Valid during one event of the host; not owned.
   virtual void SetWindowContext(WindowContext* context);
@@ -75,6 +75,8 @@ class TopControlPane : public ControlPane, public ParameterOwner {
   int32_t CurrentCursor() const { return currentCursor; }
   // The notify of the last change of focus, for OnFocusLost.
   bool FocusNotifies() const { return focusNotifies; }
+  // Lets go of a control and all under it.
+  void Forget(const ControlPane* control);
   // Whether a control is this one or linked under it.
   bool Belongs(const ControlPane* control) const;
 

@@ -2,8 +2,9 @@
 // that is moved by hand.
 #pragma once
 
+#include <algorithm>
 #include <functional>
-#include <set>
+#include <iterator>
 #include <string>
 #include <utility>
 #include <vector>
@@ -39,8 +40,14 @@ struct Stage {
   std::string heard;  // "id.Hook " for each call
   bool listens = true;
   std::function<void(ControlPane&, const char*)> onHook;
-  std::set<ControlPane*> alive;
+  std::vector<ControlPane*> alive;  // in the order of their making
 
+  bool IsAlive(const ControlPane* pane) const {
+    return std::find(alive.begin(), alive.end(), pane) != alive.end();
+  }
+  void Forget(const ControlPane* pane) {
+    alive.erase(std::prev(std::find(alive.rbegin(), alive.rend(), pane).base()));
+  }
   std::string Heard() { return std::exchange(heard, {}); }
   void Hear(ControlPane& pane, const char* hook) {
     if (listens) heard += std::to_string(pane.GetId()) + '.' + hook + ' ';
@@ -53,11 +60,10 @@ template <typename Base>
 class Recording : public Base {
  public:
   template <typename... Arguments>
-  explicit Recording(Stage& heardBy, Arguments... arguments)
-      : Base(arguments...), stage(heardBy) {
-    stage.alive.insert(this);
+  explicit Recording(Stage& heardBy, Arguments... arguments) : Base(arguments...), stage(heardBy) {
+    stage.alive.push_back(this);
   }
-  ~Recording() override { stage.alive.erase(this); }
+  ~Recording() override { stage.Forget(this); }
 
   void Paint(const Rect& rect, ImageBuffer& buffer, const Point& position) override {
     const Rect area = MovedBy(AtOrigin(rect), position.x, position.y);

@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include <iterator>
+#include <set>
 #include <sstream>
 
 #include "RecordingTree.h"
@@ -25,7 +26,7 @@ struct Tree {
     stage.onHook = nullptr;
     if (IsAlive(root)) delete root;
   }
-  bool IsAlive(ControlPane* control) const { return stage.alive.contains(control); }
+  bool IsAlive(ControlPane* control) const { return stage.IsAlive(control); }
 
   Stage stage;
   Panel* root;
@@ -42,7 +43,9 @@ void Press(Tree& tree, int32_t mode) {
 using Event = void (*)(Tree&, HandClock&);
 constexpr Event kEvents[] = {
     [](Tree& tree, HandClock&) { tree.root->MouseOver(kOnLeaf, {}); },
-    [](Tree& tree, HandClock&) { tree.root->Redraw({0, 0, 200, 150}); },
+    [](Tree& tree, HandClock&) {
+      tree.root->Redraw({0, 0, 200, 150});
+    },
     [](Tree& tree, HandClock&) { tree.root->FocusNext(); },
     [](Tree& tree, HandClock&) { tree.root->SetPendingKey(65); },
     [](Tree& tree, HandClock& clock) { clock.now += 100, tree.root->IdleTree(); },
@@ -58,15 +61,25 @@ constexpr Event kEvents[] = {
     [](Tree& tree, HandClock&) { tree.leaf->SetDirty(true); },
     [](Tree& tree, HandClock&) { tree.root->UpdateTree(); },
     [](Tree& tree, HandClock&) { tree.root->SetChildEnabled(2, true, true, true); },
-    [](Tree& tree, HandClock&) { tree.leaf->AnimateBounds({0, 0, 120, 120}, 1.0); },
+    [](Tree& tree, HandClock&) {
+      tree.leaf->AnimateBounds({0, 0, 120, 120}, 1.0);
+    },
     [](Tree& tree, HandClock&) { tree.leaf->AnimateOpacity(0.5, 1.0); },
     [](Tree& tree, HandClock& clock) { clock.now += 1500, tree.root->UpdateTree(); },
     [](Tree& tree, HandClock&) { Press(tree, kTrackMove); },
-    [](Tree& tree, HandClock&) { tree.root->MouseDrag({26, 26}, 1, 1, {}, kLeftButton); },
-    [](Tree& tree, HandClock&) { tree.root->MouseUp({26, 26}, kLeftButton); },
+    [](Tree& tree, HandClock&) {
+      tree.root->MouseDrag({26, 26}, 1, 1, {}, kLeftButton);
+    },
+    [](Tree& tree, HandClock&) {
+      tree.root->MouseUp({26, 26}, kLeftButton);
+    },
     [](Tree& tree, HandClock&) { Press(tree, kTrackResize); },
-    [](Tree& tree, HandClock&) { tree.root->MouseDrag({30, 26}, 1, 1, {}, kLeftButton); },
-    [](Tree& tree, HandClock&) { tree.root->MouseUp({30, 26}, kLeftButton); },
+    [](Tree& tree, HandClock&) {
+      tree.root->MouseDrag({30, 26}, 1, 1, {}, kLeftButton);
+    },
+    [](Tree& tree, HandClock&) {
+      tree.root->MouseUp({30, 26}, kLeftButton);
+    },
     [](Tree& tree, HandClock&) { tree.root->RightMouseDown(kOnLeaf, {}, false); },
     [](Tree& tree, HandClock&) { tree.leaf->RaiseAndRedraw(); },
     [](Tree& tree, HandClock&) { tree.root->SetStateTreeKeepHidden(kStateDisabled); },

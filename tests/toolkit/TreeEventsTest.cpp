@@ -190,7 +190,8 @@ TEST(TreeEvents, PointsArriveInTheControlsOwnSpace) {
 TEST(TreeEvents, TabGoesRoundThoseThatCanTakeTheFocus) {
   Events events;
   Pane& last = events.window.Add(events.window, {0, 0, 5, 5}, 3);
-  for (ControlPane* pane : std::initializer_list<ControlPane*>{&events.back, &events.front, &last}) {
+  for (ControlPane* pane :
+       std::initializer_list<ControlPane*>{&events.back, &events.front, &last}) {
     events.window.AddToFocusRing(pane);
   }
   events.front.SetEnabled(false);
@@ -199,7 +200,10 @@ TEST(TreeEvents, TabGoesRoundThoseThatCanTakeTheFocus) {
     Modifiers keys;
     ControlPane* focus;
   };
-  for (const Step& step : {Step{shift, &last}, {{}, &events.back}, {{}, &last}, {shift, &events.back},
+  for (const Step& step : {Step{shift, &last},
+                           {{}, &events.back},
+                           {{}, &last},
+                           {shift, &events.back},
                            {shift, &last}}) {
     EXPECT_TRUE(events.window.KeyDown(9, step.keys));
     EXPECT_EQ(events.window.GetFocus(), step.focus);
