@@ -49,6 +49,13 @@ const EventCase kEventCases[] = {
        e.window.MouseDownAt(kOverlap);
      },
      "2.SetState 0.OnCaptureGained 1.OnMouseDown "},
+    {"all in a disabled one lets the press through",
+     [](Events& e) {
+       e.window.Add(e.front, {0, 0, 50, 50}, 3);
+       e.front.SetState(kStateDisabled);
+       e.window.MouseDownAt(kOverlap);
+     },
+     "2.SetState 0.OnCaptureGained 1.OnMouseDown "},
     {"drag and release go to the captured one",
      [](Events& e) {
        e.window.MouseDownAt(kOnBack);
@@ -189,24 +196,21 @@ TEST(TreeEvents, PointsArriveInTheControlsOwnSpace) {
 
 TEST(TreeEvents, TabGoesRoundThoseThatCanTakeTheFocus) {
   Events events;
-  Pane& last = events.window.Add(events.window, {0, 0, 5, 5}, 3);
-  for (ControlPane* pane :
-       std::initializer_list<ControlPane*>{&events.back, &events.front, &last}) {
-    events.window.AddToFocusRing(pane);
+  for (int32_t made = 3; made <= 5; ++made) events.window.Add(events.window, {0, 0, 5, 5}, made);
+  for (int32_t paneId = 1; paneId <= 5; ++paneId) {
+    events.window.AddToFocusRing(events.window.FindChildById(paneId));
   }
   events.front.SetEnabled(false);
+  events.window.DeleteChild(events.window.FindChildById(4));
   const Modifiers shift = {.shift = true};
   struct Step {
     Modifiers keys;
-    ControlPane* focus;
+    int32_t focus;
   };
-  for (const Step& step : {Step{shift, &last},
-                           {{}, &events.back},
-                           {{}, &last},
-                           {shift, &events.back},
-                           {shift, &last}}) {
+  for (const Step& step : {Step{shift, 5}, {{}, 1}, {{}, 3}, {{}, 5}, {shift, 3}, {shift, 1}}) {
     EXPECT_TRUE(events.window.KeyDown(9, step.keys));
-    EXPECT_EQ(events.window.GetFocus(), step.focus);
+    ASSERT_NE(events.window.GetFocus(), nullptr);
+    EXPECT_EQ(events.window.GetFocus()->GetId(), step.focus);
   }
   events.window.SetStateTree(kStateHidden);
   EXPECT_FALSE(events.window.KeyDown(9, {}));

@@ -4,6 +4,7 @@
 #include <limits>
 
 #include "RecordingTree.h"
+#include "toolkit/DestroyedControls.h"
 
 namespace {
 
@@ -194,6 +195,20 @@ TEST(TreeGeometry, DeepAndWideTreesAreWalkedWhole) {
     }
     EXPECT_TRUE(stage.alive.empty());
   }
+}
+
+TEST(TreeGeometry, AnyDepthCanBeDeleted) {
+  auto* const root = new TopControlPane({0, 0, 100, 100});
+  ControlPane* last = root;
+  for (int32_t made = 0; made < 200000; ++made) {
+    auto* const pane = new ControlPane(last, {0, 0, 100, 100});
+    last->AddChild(pane, true);
+    last = pane;
+  }
+  delete root;
+  EXPECT_TRUE(DestroyedControls::Contains(last));
+  const ControlPane next(nullptr, {});
+  EXPECT_FALSE(DestroyedControls::Contains(last));
 }
 
 }  // namespace

@@ -39,6 +39,17 @@ ColorBGRA ColorAt(const ControlPane& pane, const ColorBGRA& own, const Point& lo
   return color;
 }
 
+// What a point of a control hits, the plain way; nothing shows outside its owner.
+ControlPane* HitAt(ControlPane& pane, const Point& inOwner) {
+  const Rect place = pane.GetBounds();
+  if (!pane.IsVisible() || !pane.IsEnabled() || !Contains(place, inOwner)) return nullptr;
+  const Point local = {inOwner.x - place.left, inOwner.y - place.top};
+  for (int32_t index = 0; index < pane.GetChildCount(); ++index) {
+    if (ControlPane* const hit = HitAt(*pane.GetChildAt(index), local)) return hit;
+  }
+  return &pane;
+}
+
 struct Painted {
   explicit Painted(uint32_t seed, int32_t scale) : random(seed), screen(scale, {0, 0, 130, 100}) {
     MakeScreenBuffer(32 * scale, 24 * scale);
@@ -101,6 +112,30 @@ TEST(TreePaint, ARepaintShowsTheTreeInsideItsAreaAndNothingElse) {
     EXPECT_EQ(part.WrongPixels(area), 0) << "seed " << seed;
   }
   DestroyScreenBuffer();
+}
+
+TEST(TreePaint, WhatShowsIsWhatIsHit) {
+  for (uint32_t seed = 0; seed < 60; ++seed) {
+    Painted painted(seed, 1);
+    for (int32_t y = 0; y < 100; ++y) {
+      for (int32_t x = 0; x < 130; ++x) {
+        ASSERT_EQ(painted.root.HitTest({x, y}), HitAt(painted.root, {x, y})) << "seed " << seed;
+      }
+    }
+  }
+  DestroyScreenBuffer();
+}
+
+TEST(TreePaint, AControlThatRaisesItselfWhilePaintingEndsTheRepaint) {
+  Stage stage;
+  Panel root(stage, {0, 0, 100, 100});
+  for (int32_t made = 1; made <= 3; ++made) root.Add(root, {0, 0, 50, 50}, made);
+  int32_t painted = 0;
+  stage.onHook = [&painted](ControlPane& pane, const char* hook) {
+    if (std::string(hook) == "Paint" && ++painted < 1000) pane.MoveToFront();
+  };
+  root.RedrawSelf();
+  EXPECT_LT(painted, 10);
 }
 
 TEST(TreePaint, OnlyWhatShowsIsPainted) {
