@@ -42,12 +42,12 @@ class ButtonPanel : public CustomPanel {
     }
   }
 
-  // A part of the panel alone, on a picture of its size.
+  // Paints a part of the panel on an empty picture of the panel's size.
   void PaintPart(const Rect& part, int32_t scale, ImageBuffer& picture) {
-    picture.Allocate((part.right - part.left) * scale, (part.bottom - part.top) * scale, false);
+    picture.Allocate(kPanelPlace.right * scale, kPanelPlace.bottom * scale, false);
     picture.SetScale(static_cast<float>(scale));
     picture.SetScaleAware(true);
-    DrawTree(part, {part.left, part.top}, picture);
+    DrawTree(part, {0, 0}, picture);
   }
 
   ColorBGRA PixelAt(int32_t x, int32_t y) {
@@ -64,14 +64,14 @@ class ButtonPanel : public CustomPanel {
   }
 
   std::string heard;
-  std::function<void(char)> onNews;
+  std::function<void()> onNews;
   std::function<void()> onPaint;
   ButtonControl* button = nullptr;
 
  private:
   void Hear(const ControlPane* source, char news) {
     heard += source == button ? news : '?';
-    if (onNews) onNews(news);
+    if (onNews) onNews();
   }
 
   StillWindow window;
