@@ -49,33 +49,40 @@ DemoPanel::DemoPanel(float scale)
     : CustomPanel({0, 0, kWidth, kHeight}, kPanelId), iconScale(scale) {
   SetWindowContext(&window);
   DrawLamps(strip);
-  AddKinds();
+  AddPlainKinds();
+  AddPlateAndIconKinds();
   AddOverlaps();
   AddLabels();
   captions.push_back({{kMenuArea.left, 10}, "Menu"});
 }
 
-void DemoPanel::AddKinds() {
+void DemoPanel::AddPlainKinds() {
   for (size_t i = 0; i < kLookNames.size(); ++i) {
     captions.push_back({{kFirstColumn + static_cast<int32_t>(i) * kColumnStep, 10}, kLookNames[i]});
   }
   AddRow(0, "Plain", [this](const Rect& place, bool toggle) {
     return AddButton<ButtonControl>(*this, place, toggle);
   });
-  AddRow(1, "Plain, own colours", [this](const Rect& place, bool toggle) {
-    ButtonControl* button = AddButton<ButtonControl>(*this, place, toggle);
+  AddRow(1, "Own colours", [this](const Rect& place, bool toggle) {
+    auto* button = AddButton<ButtonControl>(*this, place, toggle);
     button->SetFrame(6.0F, 2);
     button->SetStateColors(kButtonNormal,
                            {ThemeColors::White, ThemeColors::Gray51, ThemeColors::Orange});
     return button;
   });
-  AddRow(2, "Label on plate", [this](const Rect& place, bool toggle) {
-    QvButton* button = AddButton<QvButton>(*this, place, toggle);
+  AddRow(2, "Strip of pictures", [this](const Rect& place, bool toggle) {
+    return AddButton<ButtonControl>(*this, place, toggle, &strip);
+  });
+}
+
+void DemoPanel::AddPlateAndIconKinds() {
+  AddRow(3, "Label on plate", [this](const Rect& place, bool toggle) {
+    auto* button = AddButton<QvButton>(*this, place, toggle);
     if (!toggle) button->SetLabels("Copy", "Copy");
     return button;
   });
-  AddRow(3, "Icon", [this](const Rect& place, bool toggle) {
-    QvIconButton* button = AddButton<QvIconButton>(*this, place, toggle);
+  AddRow(4, "Icon", [this](const Rect& place, bool toggle) {
+    auto* button = AddButton<QvIconButton>(*this, place, toggle);
     button->SetIcon(kButtonDisabled, MakeDemoIcon("Undo_Disabled.png", iconScale));
     button->SetIcon(kButtonNormal, MakeDemoIcon("Undo_Normal.png", iconScale));
     button->SetIcon(kButtonOver, MakeDemoIcon("Undo_Over.png", iconScale));
@@ -84,15 +91,12 @@ void DemoPanel::AddKinds() {
     if (toggle) button->SetIcon(kButtonPressedOver, MakeDemoIcon("Redo_Over.png", iconScale));
     return button;
   });
-  AddRow(4, "Icon on plate", [this](const Rect& place, bool toggle) {
-    QvIconButtonWithBG* button = AddButton<QvIconButtonWithBG>(*this, place, toggle);
+  AddRow(5, "Icon on plate", [this](const Rect& place, bool toggle) {
+    auto* button = AddButton<QvIconButtonWithBG>(*this, place, toggle);
     button->SetIcon(kButtonNormal, MakeDemoIcon("Flip_Normal.png", iconScale));
     button->SetIcon(kButtonOver, MakeDemoIcon("Flip_Over.png", iconScale));
     if (toggle) button->SetIcon(kButtonPressed, MakeDemoIcon("Flip_Normal.png", iconScale));
     return button;
-  });
-  AddRow(5, "Strip of pictures", [this](const Rect& place, bool toggle) {
-    return AddButton<ButtonControl>(*this, place, toggle, &strip);
   });
 }
 
@@ -102,7 +106,7 @@ void DemoPanel::AddRow(int32_t row, const char* caption, const MakeButton& makeB
   captions.push_back({{8, top + 5}, caption});
   int32_t left = kFirstColumn;
   for (size_t i = 0; i < kLookNames.size(); ++i, left += kColumnStep) {
-    const Look look = static_cast<Look>(i);
+    const auto look = static_cast<Look>(i);
     const Rect place = {left, top, left + kButtonSize.x, top + kButtonSize.y};
     ButtonControl* button = makeButton(place, look == Look::kOn || look == Look::kOnOver);
     if (look == Look::kDisabled) button->SetEnabled(false);
@@ -117,25 +121,23 @@ void DemoPanel::AddOverlaps() {
   struct Pair {
     const char* caption;
     int32_t frontState;
-    bool reachesFront;
     Look look;
   };
-  constexpr std::array<Pair, 4> kPairs = {
-      {{"In front", kStateNormal, true, Look::kOver},
-       {"In front", kStateNormal, true, Look::kPressed},
-       {"Disabled in front", kStateDisabled, false, Look::kOver},
-       {"Hidden in front", kStateHidden, false, Look::kPressed}}};
+  constexpr std::array<Pair, 4> kPairs = {{{"Front, over", kStateNormal, Look::kOver},
+                                           {"Front, pressed", kStateNormal, Look::kPressed},
+                                           {"Disabled in front", kStateDisabled, Look::kOver},
+                                           {"Hidden in front", kStateHidden, Look::kPressed}}};
   captions.push_back({{8, kTop + 13}, "Overlapping"});
   int32_t left = kFirstColumn;
   for (const Pair& pair : kPairs) {
     captions.push_back({{left, kTop}, pair.caption});
-    QvButton* back = AddButton<QvButton>(*this, {left, kTop + 14, left + 60, kTop + 38}, false);
-    QvButton* front =
-        AddButton<QvButton>(*this, {left + 34, kTop + 26, left + 94, kTop + 50}, false);
+    auto* back = AddButton<QvButton>(*this, {left, kTop + 14, left + 60, kTop + 38}, false);
+    auto* front = AddButton<QvButton>(*this, {left + 34, kTop + 26, left + 94, kTop + 50}, false);
     back->SetLabels("Back", "Back");
     front->SetLabels("Front", "Front");
     front->SetState(pair.frontState);
-    specimens.push_back({pair.reachesFront ? front : back, pair.look, {left + 46, kTop + 32}});
+    QvButton* reached = pair.frontState == kStateNormal ? front : back;
+    specimens.push_back({reached, pair.look, {left + 46, kTop + 32}});
     left += 106;
   }
 }
@@ -147,8 +149,8 @@ void DemoPanel::AddLabels() {
   const auto add = [this](int32_t column, int32_t row, const char* label, const Font* font) {
     const int32_t left = kFirstColumn + column * 106;
     const int32_t top = kTop + row * kRowStep;
-    ButtonControl* button = AddButton<ButtonControl>(
-        *this, {left, top, left + 96, top + kButtonSize.y}, false, nullptr, font);
+    auto* button = AddButton<ButtonControl>(*this, {left, top, left + 96, top + kButtonSize.y},
+                                            false, nullptr, font);
     button->SetLabels(label, label);
     return button;
   };
@@ -156,12 +158,12 @@ void DemoPanel::AddLabels() {
   add(1, 0, "Centred", nullptr);
   add(2, 0, "Right", nullptr)->SetLabelAlignment(2);
   add(3, 0, "Bold", &FontBold());
-  ButtonControl* inset = add(0, 1, "Inset by 20", nullptr);
-  inset->SetLabelAlignment(0);
-  inset->SetLabelInsets(20, 0);
-  ButtonControl* insetRight = add(1, 1, "Inset by 20", nullptr);
+  ButtonControl* insetLeft = add(0, 1, "Inset left", nullptr);
+  insetLeft->SetLabelAlignment(0);
+  insetLeft->SetLabelInsets(6, 0);
+  ButtonControl* insetRight = add(1, 1, "Inset right", nullptr);
   insetRight->SetLabelAlignment(2);
-  insetRight->SetLabelInsets(0, 20);
+  insetRight->SetLabelInsets(0, 6);
   add(2, 1, "Apart", nullptr)->SetLabelTracking(8, 4);
   add(3, 1, "A label that is too long for its button", nullptr);
 }

@@ -43,7 +43,8 @@ class DemoPanel : public CustomPanel {
 
   using MakeButton = std::function<ButtonControl*(const Rect& place, bool toggle)>;
 
-  void AddKinds();
+  void AddPlainKinds();
+  void AddPlateAndIconKinds();
   void AddRow(int32_t row, const char* caption, const MakeButton& makeButton);
   void AddOverlaps();
   void AddLabels();
