@@ -1,0 +1,69 @@
+// A root with a context menu, a clock that doesn't wait, and all who hear of a choice.
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <functional>
+#include <memory>
+
+#include "toolkit/Clock.h"
+#include "toolkit/PopupContextMenu.h"
+#include "toolkit/TopControlPane.h"
+#include "tools/specimens/StillWindow.h"
+
+using Strings = std::vector<std::string>;
+
+class MenuRoot : public TopControlPane {
+ public:
+  MenuRoot() : TopControlPane({100, 50, 500, 650}) { SetWindowContext(&window); }
+  void NotifyReleased(ControlPane* /*source*/) override { onReleased(); }
+
+  std::function<void()> onReleased;
+  StillWindow window;
+};
+
+struct MenuStage : public Clock, public PopupContextMenuDelegate {
+  explicit MenuStage(const Strings& labels) {
+    UseClock(this);
+    holder->EnsureMenu();
+    List()->RebuildItems(&labels);
+    root->onReleased = [this] { Hear("released"); };
+  }
+  ~MenuStage() override { UseClock(nullptr); }
+
+  uint32_t Milliseconds() override { return 0; }
+  void Sleep(int32_t milliseconds) override {
+    Hear(std::to_string(milliseconds) + " ms over " + std::to_string(List()->GetHoverIndex()));
+  }
+  void OnPopupContextMenu(PopupContextMenu* menu, ControlPane* list, int32_t index) override {
+    EXPECT_TRUE(menu == holder.get() && list == List());
+    Hear("chosen " + std::to_string(index));
+  }
+  void Hear(const std::string& what) {
+    heard.push_back(what);
+    onHeard();
+  }
+
+  MenuControl* List() const { return holder->GetList(); }
+  void Open() { holder->ShowAt(*root, {120, 60}, {}); }
+  // A global point at a row's left end; of row -1, on the list's margin.
+  Point On(int32_t row) const {
+    const Rect rect = List()->GetRowRect(row);
+    Point point = {rect.left, rect.top + 1};
+    List()->LocalToGlobalPoint(&point);
+    return point;
+  }
+  // Presses, drags and releases over rows.
+  void Choose(int32_t press, int32_t drag, int32_t release) {
+    const Point releasePoint = On(release);
+    root->MouseDown(On(press), {}, false, kLeftButton);
+    root->MouseDrag(On(drag), 0, 0, {}, kLeftButton);
+    root->MouseUp(releasePoint, kLeftButton);
+  }
+
+  Strings heard;
+  std::function<void()> onHeard = [] {};
+  std::unique_ptr<MenuRoot> root = std::make_unique<MenuRoot>();
+  std::unique_ptr<PopupContextMenu> holder = std::make_unique<PopupContextMenu>(nullptr, this);
+  PopupContextMenu other{nullptr, nullptr};
+};
