@@ -18,9 +18,8 @@ MenuControl::MenuControl(ControlPane* ownerPane, const Rect& initialBounds, cons
 
 void MenuControl::EndTracking() {
   PopupEnclosure::EndTracking();
-  // A listener may have opened another popup in place of this one; that one stays.
-  TopControlPane* const root = IsOpen() ? GetTopOwnerPtr() : nullptr;
-  if (root != nullptr && root->GetPopup() == this) root->HidePopup();
+  TopControlPane* const root = GetTopOwnerPtr();
+  if (root != nullptr) root->HidePopup();
 }
 
 void MenuControl::OnMouseDown(WindowContext* context, const Point& point) {

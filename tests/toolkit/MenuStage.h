@@ -8,6 +8,7 @@
 
 #include "toolkit/Clock.h"
 #include "toolkit/PopupContextMenu.h"
+#include "toolkit/SharedBuffers.h"
 #include "toolkit/TopControlPane.h"
 #include "tools/specimens/StillWindow.h"
 
@@ -16,20 +17,29 @@ using Strings = std::vector<std::string>;
 class MenuRoot : public TopControlPane {
  public:
   MenuRoot() : TopControlPane({100, 50, 500, 650}) { SetWindowContext(&window); }
-  void NotifyReleased(ControlPane* /*source*/) override { onReleased(); }
+  void NotifyReleased(ControlPane* /*source*/) override { hear("released"); }
+  void PaintOverlay(const Rect& /*rect*/, ImageBuffer& /*buffer*/,
+                    const Point& /*position*/) override {
+    hear("painted");
+  }
 
-  std::function<void()> onReleased;
+  std::function<void(const char*)> hear = [](const char*) {};
   StillWindow window;
 };
 
 struct MenuStage : public Clock, public PopupContextMenuDelegate {
   explicit MenuStage(const Strings& labels) {
     UseClock(this);
+    EnsureScreenBuffer(400, 600);
     holder->EnsureMenu();
     List()->RebuildItems(&labels);
-    root->onReleased = [this] { Hear("released"); };
+    root->hear = [this](const char* what) { Hear(what); };
   }
-  ~MenuStage() override { UseClock(nullptr); }
+  ~MenuStage() override {
+    root.reset();
+    DestroyScreenBuffer();
+    UseClock(nullptr);
+  }
 
   uint32_t Milliseconds() override { return 0; }
   void Sleep(int32_t milliseconds) override {
@@ -41,7 +51,7 @@ struct MenuStage : public Clock, public PopupContextMenuDelegate {
   }
   void Hear(const std::string& what) {
     heard.push_back(what);
-    onHeard();
+    if (released) onHeard();
   }
 
   MenuControl* List() const { return holder->GetList(); }
@@ -53,14 +63,19 @@ struct MenuStage : public Clock, public PopupContextMenuDelegate {
     List()->LocalToGlobalPoint(&point);
     return point;
   }
-  // Presses, drags and releases over rows.
+  // Presses, drags and releases over rows; what is heard begins at the release.
   void Choose(int32_t press, int32_t drag, int32_t release) {
     const Point releasePoint = On(release);
     root->MouseDown(On(press), {}, false, kLeftButton);
     root->MouseDrag(On(drag), 0, 0, {}, kLeftButton);
+    repaints = heard.size();
+    heard.clear();
+    released = true;
     root->MouseUp(releasePoint, kLeftButton);
   }
 
+  bool released = false;
+  size_t repaints = 0;  // before the release
   Strings heard;
   std::function<void()> onHeard = [] {};
   std::unique_ptr<MenuRoot> root = std::make_unique<MenuRoot>();

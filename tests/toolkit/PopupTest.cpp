@@ -47,7 +47,7 @@ TEST(PopupContextMenu, OpensAtThePointAndOnlyAClampedListMovesIntoBounds) {
   }
 }
 
-// What happens to the tree while a choice is being told; each case runs at each of the four calls.
+// What happens to the tree while a choice is being told; each case runs at each of the six calls.
 struct Upset {
   const char* what;
   void (*upset)(MenuStage&);
@@ -74,7 +74,7 @@ constexpr Upset kUpsets[] = {
 
 TEST(PopupContextMenu, WhateverGoesDuringAChoiceLeavesNothingBehind) {
   for (const Upset& row : kUpsets) {
-    for (size_t call = 1; call <= 4; ++call) {
+    for (size_t call = 1; call <= 6; ++call) {
       SCOPED_TRACE(std::string(row.what) + " at call " + std::to_string(call));
       MenuStage stage({"a", "b"});
       stage.Open();
