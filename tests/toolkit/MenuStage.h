@@ -55,7 +55,6 @@ struct MenuStage : public Clock, public PopupContextMenuDelegate {
   }
 
   MenuControl* List() const { return holder->GetList(); }
-  void Open() { holder->ShowAt(*root, {120, 60}, {}); }
   // A global point at a row's left end; of row -1, on the list's margin.
   Point On(int32_t row) const {
     const Rect rect = List()->GetRowRect(row);
@@ -63,8 +62,9 @@ struct MenuStage : public Clock, public PopupContextMenuDelegate {
     List()->LocalToGlobalPoint(&point);
     return point;
   }
-  // Presses, drags and releases over rows; what is heard begins at the release.
+  // Opens the list, presses, drags and releases over rows. What is heard begins at the release.
   void Choose(int32_t press, int32_t drag, int32_t release) {
+    holder->ShowAt(*root, {120, 60}, {});
     const Point releasePoint = On(release);
     root->MouseDown(On(press), {}, false, kLeftButton);
     root->MouseDrag(On(drag), 0, 0, {}, kLeftButton);
@@ -80,5 +80,4 @@ struct MenuStage : public Clock, public PopupContextMenuDelegate {
   std::function<void()> onHeard = [] {};
   std::unique_ptr<MenuRoot> root = std::make_unique<MenuRoot>();
   std::unique_ptr<PopupContextMenu> holder = std::make_unique<PopupContextMenu>(nullptr, this);
-  PopupContextMenu other{nullptr, nullptr};
 };
