@@ -76,12 +76,6 @@ TEST(MenuControl, EachStateOfARowHasItsLookAlsoPaintedInPieces) {
   ImageBuffer picture;
   picture.Allocate(150, 150, false);
   picture.FillRect(picture.Bounds(), ThemeColors::PanelBackground, 256, nullptr);
-  for (int32_t y = 0; y < 112; y += 7) {
-    for (int32_t x = 0; x < 112; x += 16) {
-      list.Paint({x, y, x + 16, y + 7}, picture, {5 + x, 8 + y});
-    }
-  }
-
   const auto pixels = [&](int32_t y) { return picture.Row(8 + y) + 5; };
   // How many pixels of columns [left, right) of a row have a colour.
   const auto count = [&](int32_t row, int32_t left, int32_t right, uint32_t color) {
@@ -91,6 +85,13 @@ TEST(MenuControl, EachStateOfARowHasItsLookAlsoPaintedInPieces) {
     }
     return found;
   };
+  for (int32_t x = 0; x < 112; x += 16) {
+    for (int32_t y = 0; y < 112; y += 7) {
+      list.Paint({x, y, x + 16, y + 7}, picture, {5 + x, 8 + y});
+    }
+    EXPECT_EQ(count(1, x + 16, 112, 0xFF2E2E2E), 20 * (96 - x)) << "right of " << x + 16;
+  }
+
   EXPECT_EQ(count(0, 6, 106, 0xFF404040), 100);
   EXPECT_EQ(count(0, 6, 106, 0xFF161616), 19 * 100);
   EXPECT_EQ(pixels(6 + 9)[6], ColorBGRA(0xFF404040)) << "the middle";
