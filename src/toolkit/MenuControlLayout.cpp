@@ -33,7 +33,7 @@ void MenuControl::RebuildItems(const std::vector<std::string>* newLabels) {
     item->height = lineHeight + 2 * item->padY;
     item->top = Narrowed(top);
     top += item->height;
-    contentWidth = std::max<int64_t>(contentWidth, int64_t{item->textWidth} + 2 * item->padX);
+    contentWidth = std::max<int64_t>(contentWidth, item->textWidth + 2 * int64_t{item->padX});
     items.push_back(std::move(item));
   }
 

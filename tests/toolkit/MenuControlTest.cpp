@@ -89,7 +89,7 @@ TEST(MenuControl, EachStateOfARowHasItsLookAlsoPaintedInPieces) {
     for (int32_t y = 0; y < 112; y += 7) {
       list.Paint({x, y, x + 16, y + 7}, picture, {5 + x, 8 + y});
     }
-    EXPECT_EQ(count(1, x + 16, 112, 0xFF2E2E2E), 20 * (96 - x)) << "right of " << x + 16;
+    EXPECT_EQ(count(1, x + 16, 112, 0xFF2E2E2E), int64_t{20} * (96 - x)) << "right of " << x + 16;
   }
 
   EXPECT_EQ(count(0, 6, 106, 0xFF404040), 100);

@@ -14,8 +14,8 @@ struct PlacedMenu : public MenuControl {
 // The list is 112 x 32, the root's top left at (100, 50).
 TEST(PopupContextMenu, OpensAtThePointAndOnlyAClampedListMovesIntoBounds) {
   const struct {
-    const char* what;
-    bool unclamped;
+    const char* what = "";
+    bool unclamped = false;
     Point point;
     Rect limits;
     Point opened;
