@@ -8,7 +8,7 @@ class PopupContextMenu;
 
 class PopupContextMenuDelegate {
  public:
-  // menuControl   the list; index   the row chosen, -1 for none
+  // menuControl   the list; index   the row chosen
   virtual void OnPopupContextMenu(PopupContextMenu* menu, ControlPane* menuControl, int32_t index) {
     (void)menu;
     (void)menuControl;
