@@ -1,4 +1,5 @@
-// A panel with each kind of button in each of its states, overlapping ones and kinds of labels.
+// A panel with each kind of button in each of its states, overlapping ones, kinds of labels, and a
+// menu.
 #include "tools/specimens/DemoPanel.h"
 
 #include <array>
@@ -175,6 +176,9 @@ void DemoPanel::PaintSpecimens(ImageBuffer& page) {
     DrawTree(specimen.button->GetBounds(), {0, 0}, page);
     Leave(specimen);
   }
+  menu.Open(*this, {kMenuArea.left, kMenuArea.top});
+  DrawTree(kMenuArea, {0, 0}, page);
+  menu.Close(*this);
 }
 
 void DemoPanel::Lead(const Specimen& specimen) {

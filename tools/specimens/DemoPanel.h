@@ -1,4 +1,5 @@
-// A panel with each kind of button in each of its states, overlapping ones and kinds of labels.
+// A panel with each kind of button in each of its states, overlapping ones, kinds of labels, and a
+// menu.
 #pragma once
 
 #include <cstdint>
@@ -9,6 +10,7 @@
 #include "drawing/ImageBuffer.h"
 #include "toolkit/ButtonControl.h"
 #include "toolkit/CustomPanel.h"
+#include "tools/specimens/DemoMenu.h"
 #include "tools/specimens/StillWindow.h"
 
 class DemoPanel : public CustomPanel {
@@ -21,7 +23,8 @@ class DemoPanel : public CustomPanel {
   // scale   of the picture that it will be painted on, 1 or 2, for the icons
   explicit DemoPanel(float scale);
 
-  // Brings one button after the other into its state by the events that lead there, and paints it.
+  // Brings one button after the other into its state by the events that lead there, and paints it;
+  // then the menu.
   void PaintSpecimens(ImageBuffer& page);
 
   void Paint(const Rect& rect, ImageBuffer& buffer, const Point& position) override;
@@ -57,4 +60,5 @@ class DemoPanel : public CustomPanel {
   ImageBuffer strip;
   std::vector<Specimen> specimens;
   std::vector<Caption> captions;
+  DemoMenu menu;
 };
