@@ -100,7 +100,7 @@ TEST(MenuControl, EachStateOfARowHasItsLookAlsoPaintedInPieces) {
     const uint32_t fill = row == 3 ? 0xFF13364F : 0xFF161616;
     EXPECT_GE(count(row, 26, 106, textColors[row]), 3 * 2 * 6) << row;
     EXPECT_GT(count(row, 26, 106, fill), 1000) << row;
-    EXPECT_EQ(count(row, 6, 26, fill) == 20 * 20, row != 2) << "the mark of " << row;
+    EXPECT_EQ(count(row, 6, 26, fill) == 400, row != 2) << "the mark of " << row;
   }
   EXPECT_EQ(pixels(0)[50], ThemeColors::MenuFrame);
   EXPECT_NE(pixels(0)[0], ThemeColors::MenuFrame) << "the corners are round";
