@@ -55,10 +55,10 @@ struct MenuStage : public Clock, public PopupContextMenuDelegate {
   }
 
   MenuControl* List() const { return holder->GetList(); }
-  // A global point at a row's left end; of row -1, on the list's margin.
+  // A row's top left, global; of row -1, the list's, where its margin is.
   Point On(int32_t row) const {
     const Rect rect = List()->GetRowRect(row);
-    Point point = {rect.left, rect.top + 1};
+    Point point = {rect.left, rect.top};
     List()->LocalToGlobalPoint(&point);
     return point;
   }

@@ -47,27 +47,25 @@ TEST(PopupContextMenu, OpensAtThePointAndOnlyAClampedListMovesIntoBounds) {
   }
 }
 
-// What happens to the tree while a choice is being told; each case runs at each of the six calls.
-struct Upset {
-  const char* what;
-  void (*upset)(MenuStage&);
-  bool listGoes;
-};
-constexpr Upset kUpsets[] = {
-    {"the list goes", [](MenuStage& stage) { stage.holder->SetMenu(nullptr); }, true},
-    {"its holder goes", [](MenuStage& stage) { stage.holder.reset(); }, true},
-    {"the root goes", [](MenuStage& stage) { stage.root.reset(); }, true},
-    {"it closes", [](MenuStage& stage) { stage.root->HidePopup(); }, false},
-    {"it closes and the root goes",
-     [](MenuStage& stage) {
-       stage.root->HidePopup();
-       stage.root.reset();
-     },
-     false},
-};
-
+// Each upset of the tree happens at each of the six calls that a choice makes.
 TEST(PopupContextMenu, WhateverGoesDuringAChoiceLeavesNothingBehind) {
-  for (const Upset& row : kUpsets) {
+  const struct {
+    const char* what = "";
+    void (*upset)(MenuStage&) = nullptr;
+    bool listGoes = false;
+  } cases[] = {
+      {"the list goes", [](MenuStage& stage) { stage.holder->SetMenu(nullptr); }, true},
+      {"its holder goes", [](MenuStage& stage) { stage.holder.reset(); }, true},
+      {"the root goes", [](MenuStage& stage) { stage.root.reset(); }, true},
+      {"it closes", [](MenuStage& stage) { stage.root->HidePopup(); }, false},
+      {"it closes and the root goes",
+       [](MenuStage& stage) {
+         stage.root->HidePopup();
+         stage.root.reset();
+       },
+       false},
+  };
+  for (const auto& row : cases) {
     for (size_t call = 1; call <= 6; ++call) {
       SCOPED_TRACE(std::string(row.what) + " at call " + std::to_string(call));
       MenuStage stage({"a", "b"});
