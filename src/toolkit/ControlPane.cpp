@@ -31,7 +31,7 @@ ControlPane::~ControlPane() {
   if (isLinked) owner->Unlink(this);
   DeleteSubtree();
   DestroyedControls::Enter(this);
-  delete contextMenu;
+  ReplaceContextMenu(nullptr);
   while (firstWard != nullptr) firstWard->SetOwner(nullptr);
   LeaveList();
 }
@@ -94,12 +94,18 @@ TopControlPane* ControlPane::GetTopOwnerPtr() {
 }
 
 void ControlPane::SetContextMenu(PopupContextMenu* menu) {
-  if (menu == contextMenu) return;
-  delete contextMenu;
+  ReplaceContextMenu(menu);
+}
+
+void ControlPane::ReplaceContextMenu(PopupContextMenu* menu) {
+  PopupContextMenu* const held = contextMenuWatch ? contextMenu : nullptr;
+  if (menu == held) return;
   contextMenu = menu;
+  contextMenuWatch = menu;
+  delete held;
 }
 
 PopupContextMenu* ControlPane::GetContextMenu(WindowContext* /*context*/, const Point& /*point*/,
                                               bool* /*handled*/) {
-  return contextMenu;
+  return contextMenuWatch ? contextMenu : nullptr;
 }

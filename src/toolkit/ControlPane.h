@@ -9,6 +9,7 @@
 #include "drawing/NativeImageBuffer.h"
 #include "drawing/Rect.h"
 #include "toolkit/ControlTypes.h"
+#include "toolkit/ControlWatch.h"
 #include "toolkit/LayoutAnchor.h"
 #include "toolkit/Parameter.h"
 #include "toolkit/PopupContextMenuDelegate.h"
@@ -16,7 +17,6 @@
 #include "toolkit/WindowContext.h"
 
 class ChildWalk;
-class ControlWatch;
 class PopupContextMenu;
 class TopControlPane;
 
@@ -284,7 +284,9 @@ class ControlPane : public PopupContextMenuDelegate {
   void StepBoundsTween(double now);
   void StepOpacityTween(double now);
   static void DeleteUnlinked(ControlPane* control);
+  void ReplaceContextMenu(PopupContextMenu* menu);
 
+  ControlWatch contextMenuWatch;                   // somebody else may delete the menu
   bool isLinked = false;                           // is in its owner's children
   std::list<ControlPane*>::iterator placeInOwner;  // there, while linked
   ControlPane* firstWard = nullptr;                // all that name this one as their owner

@@ -21,6 +21,8 @@ ControlPane* ControlPane::FindHelpControl(const Point& point) {
 }
 
 bool ControlPane::IsHitAt(const Point& point) const {
+  // Cutting by every owner takes longer, so it is left to the few that may be hit.
+  if (!Contains(GetGlobalBounds(), point)) return false;
   Rect area = GetLocalBounds();
   ClipToVisibleArea(&area);
   LocalToGlobalRect(&area);

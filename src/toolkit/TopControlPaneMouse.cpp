@@ -187,7 +187,9 @@ void TopControlPane::MoveHover(ControlPane* hit) {
   std::vector<ControlWatch> left = hoverSet;
   hoverSet = entered;
   for (const ControlWatch& pane : entered) {
-    if (pane && !pane->IsMouseOver()) pane->OnMouseEnter();
+    // A hook in here may have taken controls out of the tree.
+    const bool stays = pane && (hoverSet.size() == entered.size() || Belongs(pane.Get()));
+    if (stays && !pane->IsMouseOver()) pane->OnMouseEnter();
     if (!self) return;
   }
   std::vector<const ControlPane*> kept;

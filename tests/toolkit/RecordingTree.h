@@ -68,74 +68,53 @@ class Recording : public Base {
   void Paint(const Rect& rect, ImageBuffer& buffer, const Point& position) override {
     const Rect area = MovedBy(AtOrigin(rect), position.x, position.y);
     if (color.alpha != 0) buffer.FillRect(area, color, 256, &area);
-    stage.Hear(*this, "Paint");
+    Hear("Paint");
   }
-  void PaintOverlay(const Rect& /*rect*/, ImageBuffer& /*buffer*/,
-                    const Point& /*position*/) override {
-    stage.Hear(*this, "PaintOverlay");
-  }
+  void PaintOverlay(const Rect&, ImageBuffer&, const Point&) override { Hear("PaintOverlay"); }
   bool IsOpaqueOver(const Rect& rect) const override {
     return opaque && UnionOf(this->GetLocalBounds(), rect) == this->GetLocalBounds();
   }
-  void OnMouseDown(WindowContext* /*context*/, const Point& point) override {
-    lastPoint = point;
+  void OnMouseDown(WindowContext*, const Point& point) override {
     if (pressMode != kTrackPress) this->SetTrackingMode(pressMode);
-    stage.Hear(*this, "OnMouseDown");
+    HearAt("OnMouseDown", point);
   }
-  void OnRightMouseDown(WindowContext* /*context*/, const Point& point) override {
-    lastPoint = point;
-    stage.Hear(*this, "OnRightMouseDown");
-  }
-  void OnMouseDrag(WindowContext* /*context*/, const Point& point) override {
-    lastPoint = point;
-    stage.Hear(*this, "OnMouseDrag");
-  }
-  void OnMouseUp(WindowContext* /*context*/, const Point& point) override {
-    lastPoint = point;
-    stage.Hear(*this, "OnMouseUp");
-  }
-  void OnDragMoved() override { stage.Hear(*this, "OnDragMoved"); }
-  void OnIdle(WindowContext* /*context*/) override { stage.Hear(*this, "OnIdle"); }
-  int32_t GetCursorAt(WindowContext* /*context*/, const Point& point,
-                      const Modifiers& /*modifiers*/) override {
-    lastPoint = point;
+  void OnRightMouseDown(WindowContext*, const Point&) override { Hear("OnRightMouseDown"); }
+  void OnMouseDrag(WindowContext*, const Point& at) override { HearAt("OnMouseDrag", at); }
+  void OnMouseUp(WindowContext*, const Point& at) override { HearAt("OnMouseUp", at); }
+  void OnDragMoved() override { Hear("OnDragMoved"); }
+  void OnIdle(WindowContext*) override { Hear("OnIdle"); }
+  int32_t GetCursorAt(WindowContext*, const Point&, const Modifiers&) override {
     const int32_t answer = cursor;
-    stage.Hear(*this, "GetCursorAt");
+    Hear("GetCursorAt");
     return answer;
   }
   void OnMouseEnter() override {
     Base::OnMouseEnter();
-    stage.Hear(*this, "OnMouseEnter");
+    Hear("OnMouseEnter");
   }
   void OnMouseLeave() override {
     Base::OnMouseLeave();
-    stage.Hear(*this, "OnMouseLeave");
+    Hear("OnMouseLeave");
   }
-  void OnFocusGained() override { stage.Hear(*this, "OnFocusGained"); }
-  void OnFocusLost() override { stage.Hear(*this, "OnFocusLost"); }
-  bool OnKeyDown(WindowContext* /*context*/, int32_t /*key*/, const Modifiers& /*keys*/) override {
-    stage.Hear(*this, "OnKeyDown");
-    return true;
-  }
+  void OnFocusGained() override { Hear("OnFocusGained"); }
+  void OnFocusLost() override { Hear("OnFocusLost"); }
+  bool OnKeyDown(WindowContext*, int32_t, const Modifiers&) override { return Hear("OnKeyDown"); }
   void EndTracking() override {
     Base::EndTracking();
-    stage.Hear(*this, "EndTracking");
+    Hear("EndTracking");
   }
-  bool SyncFromParameters() override {
-    stage.Hear(*this, "SyncFromParameters");
-    return true;
-  }
+  bool SyncFromParameters() override { return Hear("SyncFromParameters"); }
   bool AnyParameterChanged() const override { return parameterChanged; }
   void SetState(int32_t newState) override {
     Base::SetState(newState);
-    stage.Hear(*this, "SetState");
+    Hear("SetState");
   }
   void SetDirty(bool newDirty) override {
     Base::SetDirty(newDirty);
-    stage.Hear(*this, "SetDirty");
+    Hear("SetDirty");
   }
-  void OnBoundsAnimationDone() override { stage.Hear(*this, "OnBoundsAnimationDone"); }
-  void OnOpacityAnimationDone() override { stage.Hear(*this, "OnOpacityAnimationDone"); }
+  void OnBoundsAnimationDone() override { Hear("OnBoundsAnimationDone"); }
+  void OnOpacityAnimationDone() override { Hear("OnOpacityAnimationDone"); }
   bool IsPopup() const override { return popup; }
 
   using Base::minWidth, Base::minHeight, Base::maxWidth, Base::maxHeight, Base::resizeZone;
@@ -148,6 +127,16 @@ class Recording : public Base {
   int32_t cursor = 0;
   int32_t pressMode = kTrackPress;
   Point lastPoint;
+
+ protected:
+  bool Hear(const char* hook) {
+    stage.Hear(*this, hook);
+    return true;
+  }
+  void HearAt(const char* hook, const Point& point) {
+    lastPoint = point;
+    Hear(hook);
+  }
 };
 
 using Pane = Recording<ControlPane>;
@@ -164,12 +153,12 @@ class Panel : public Recording<CustomPanel> {
     parent.AddChild(pane, true);
     return *pane;
   }
-  void OnCaptureGained(ControlPane* /*control*/) override { stage.Hear(*this, "OnCaptureGained"); }
-  void OnCaptureLost(ControlPane* /*control*/) override { stage.Hear(*this, "OnCaptureLost"); }
-  void OnFocusChanged(ControlPane* /*control*/) override { stage.Hear(*this, "OnFocusChanged"); }
+  void OnCaptureGained(ControlPane*) override { Hear("OnCaptureGained"); }
+  void OnCaptureLost(ControlPane*) override { Hear("OnCaptureLost"); }
+  void OnFocusChanged(ControlPane*) override { Hear("OnFocusChanged"); }
   void OnChildRemoved(ControlPane* control) override {
     CustomPanel::OnChildRemoved(control);
-    stage.Hear(*this, "OnChildRemoved");
+    Hear("OnChildRemoved");
   }
   bool MouseDownAt(const Point& point) { return MouseDown(point, {}, false, kLeftButton); }
 

@@ -2,196 +2,155 @@
 #include <gtest/gtest.h>
 
 #include "RecordingTree.h"
+#include "toolkit/PopupContextMenu.h"
 
 namespace {
 
-constexpr Point kOverlap = {45, 45};
-constexpr Point kOnBack = {20, 20};
-constexpr Point kOnRoot = {105, 105};
-constexpr Point kOutside = {300, 5};
-
-// The root 0 at (5, 5); 1 behind, 2 in front of it; 9 is a popup that isn't shown.
+// The root 0 at (5, 5); 1 behind, 2 in front of it with 3 in its corner; 9 is a popup that is
+// closed.
 struct Events {
-  Events() { window.SetBackground({}); }
+  Events() {
+    popup.popup = true;
+    popup.SetId(9);
+  }
+  ~Events() { window.RemoveChild(&popup); }
+
+  static Point At(char place) {
+    if (place == 'o') return {300, 5};                  // outside
+    if (place == 'r') return {105, 105};                // on the root alone
+    if (place == 'b') return {20, 40};                  // on the one behind alone
+    return place == 'p' ? Point{6, 6} : Point{45, 45};  // the popup; where 1 and 2 overlap
+  }
+  // Plays pairs of a verb and a place; "no" and numbers are what the events answer.
+  void Play(const std::string& script) {
+    for (size_t step = 0; step + 1 < script.size(); step += 3) {
+      const Point at = At(script[step + 1]);
+      switch (script[step]) {
+        case 'D':
+          if (!window.MouseDownAt(at)) stage.heard += "no ";
+          break;
+        case 'M':
+          window.MouseDrag(at, 0, 0, {}, kLeftButton);
+          break;
+        case 'U':
+          window.MouseUp(at, kLeftButton);
+          break;
+        case 'H':
+          stage.heard += '=' + std::to_string(window.MouseOver(at, {})) + ' ';
+          break;
+        case 'R':
+          window.RightMouseDown(at, {}, false);
+          break;
+        case 'P':
+          window.ShowPopup(script[step + 1] == 'p' ? &popup : &back, false, false);
+          break;
+        case 'I':
+          clock.now += static_cast<uint32_t>(script[step + 1]);
+          window.IdleTree();
+          break;
+        default:
+          Set(script[step]);
+      }
+    }
+  }
+  void Set(char what) {
+    if (what == 'F') window.SetFocus(&back, true);
+    if (what == 'X') front.SetState(kStateDisabled);
+    if (what == 'W') window.ClearWindowContext();
+    if (what == 'N') front.pressMode = kTrackNone;
+    if (what == 'K') front.cursor = -8;
+    if (what == 'k') front.cursor = kKeepPointerWithCursor0;
+    if (what == 'Y') window.SetPendingKey(65);
+    if (what == '?') stage.heard += window.GetPopup() != nullptr ? "open " : "closed ";
+    if (what == '|') stage.heard.clear();
+  }
+
   HandClock clock;
   Stage stage;
   Panel window{stage, {5, 5, 115, 115}};
   Pane& back = window.Add(window, {10, 10, 60, 60}, 1);
   Pane& front = window.Add(window, {30, 30, 80, 80}, 2);
+  Pane& inner = window.Add(front, {0, 0, 20, 20}, 3);
   Pane popup{stage, nullptr, Rect{0, 0, 20, 20}};
-
-  void ShowPopup() {
-    popup.popup = true;
-    popup.SetId(9);
-    window.ShowPopup(&popup, false, false);
-    stage.Heard();
-  }
-  void Drag(const Point& point) { window.MouseDrag(point, 0, 0, {}, kLeftButton); }
-  void Release(const Point& point) { window.MouseUp(point, kLeftButton); }
-  ~Events() {
-    stage.listens = false;
-    window.RemoveChild(&popup);
-  }
 };
 
 struct EventCase {
   const char* what;
-  void (*play)(Events&);
+  const char* script;
   const char* heard;
 };
 
 const EventCase kEventCases[] = {
-    {"the one in front is pressed", [](Events& e) { e.window.MouseDownAt(kOverlap); },
-     "0.OnCaptureGained 2.OnMouseDown "},
-    {"a disabled one lets the press through",
-     [](Events& e) {
-       e.front.SetEnabled(false);
-       e.window.MouseDownAt(kOverlap);
-     },
-     "2.SetState 0.OnCaptureGained 1.OnMouseDown "},
-    {"all in a disabled one lets the press through",
-     [](Events& e) {
-       e.window.Add(e.front, {0, 0, 50, 50}, 3);
-       e.front.SetState(kStateDisabled);
-       e.window.MouseDownAt(kOverlap);
-     },
-     "2.SetState 0.OnCaptureGained 1.OnMouseDown "},
-    {"drag and release go to the captured one",
-     [](Events& e) {
-       e.window.MouseDownAt(kOnBack);
-       e.Drag(kOverlap);
-       e.Drag(kOutside);
-       e.Release(kOutside);
-       e.Drag(kOnBack);
-     },
+    {"the one in front is pressed", "Dx", "0.OnCaptureGained 3.OnMouseDown "},
+    {"all in a disabled one lets the press through", "X  |  Dx",
+     "0.OnCaptureGained 1.OnMouseDown "},
+    {"drag and release go to the captured one", "Db Mx Mo Uo Mb",
      "0.OnCaptureGained 1.OnMouseDown 1.OnMouseDrag 1.OnMouseDrag 1.OnMouseUp 1.EndTracking "
      "0.OnCaptureLost "},
-    {"one that doesn't track gets neither drag nor release",
-     [](Events& e) {
-       e.front.pressMode = kTrackNone;
-       e.window.MouseDownAt(kOverlap);
-       e.Drag(kOnBack);
-       e.Release(kOnBack);
-     },
-     "0.OnCaptureGained 2.OnMouseDown 0.OnCaptureLost "},
-    {"a press outside changes nothing",
-     [](Events& e) {
-       e.window.SetFocus(&e.back, true);
-       e.ShowPopup();
-       EXPECT_FALSE(e.window.MouseDownAt(kOutside));
-       EXPECT_EQ(e.window.GetPopup(), &e.popup);
-     },
-     ""},
-    {"a press elsewhere takes the focus",
-     [](Events& e) {
-       e.window.SetFocus(&e.back, true);
-       e.window.MouseDownAt(kOnBack);
-       e.window.MouseDownAt(kOnRoot);
-     },
-     "1.OnFocusGained 0.OnFocusChanged 0.OnCaptureGained 1.OnMouseDown 1.OnFocusLost "
-     "0.OnFocusChanged 0.OnCaptureGained 0.OnMouseDown "},
-    {"a press outside an open popup closes it and goes on",
-     [](Events& e) {
-       e.ShowPopup();
-       e.window.MouseDownAt({40, 90});
-       EXPECT_EQ(e.window.GetPopup(), nullptr);
-     },
+    {"a press outside changes nothing", "F  Pp |  Do ? ", "no open "},
+    {"a press elsewhere takes the focus", "F  Db |  Dr",
+     "1.OnFocusLost 0.OnFocusChanged 0.OnCaptureGained 0.OnMouseDown "},
+    {"a press outside an open popup closes it and goes on", "Pp |  Dr ? ",
      "0.OnChildRemoved 0.Paint 1.Paint 1.PaintOverlay 0.PaintOverlay 0.OnCaptureGained "
-     "0.OnMouseDown "},
-    {"a press on the popup leaves it open; a second popup isn't shown",
-     [](Events& e) {
-       e.ShowPopup();
-       EXPECT_EQ(e.window.ShowPopup(&e.back, false, false), &e.popup);
-       EXPECT_TRUE(e.window.MouseDownAt({10, 10}));
-       EXPECT_EQ(e.window.GetPopup(), &e.popup);
-     },
-     "0.OnCaptureGained 9.OnMouseDown "},
-    {"without a window nobody is pressed, though the focus goes",
-     [](Events& e) {
-       e.window.SetFocus(&e.back, true);
-       e.stage.Heard();
-       e.window.ClearWindowContext();
-       EXPECT_FALSE(e.window.MouseDownAt(kOverlap));
-       e.Release(kOverlap);
-     },
-     "1.OnFocusLost 0.OnFocusChanged 0.OnCaptureLost "},
-    {"hover enters from the hit control up and leaves what isn't hit",
-     [](Events& e) {
-       e.window.MouseOver(kOnBack, {});
-       e.window.MouseOver(kOverlap, {});
-       e.window.MouseOver(kOutside, {});
-     },
-     "1.OnMouseEnter 0.OnMouseEnter 1.GetCursorAt 2.OnMouseEnter 1.OnMouseLeave 2.GetCursorAt "
-     "2.OnMouseLeave 0.OnMouseLeave "},
-    {"a negative cursor keeps the pointer; its number is set once",
-     [](Events& e) {
-       e.front.cursor = -8;
-       EXPECT_EQ(e.window.MouseOver(kOverlap, {}), -8);
-       EXPECT_EQ(e.window.MouseOver(kOutside, {}), -8);
-       e.front.cursor = kKeepPointerWithCursor0;
-       EXPECT_EQ(e.window.MouseOver(kOutside, {}), 0);
-       EXPECT_EQ(e.window.hoverOwner.Get(), &e.front);
-       e.front.cursor = 6;
-       EXPECT_EQ(e.window.MouseOver(kOutside, {}), 6);
-       EXPECT_EQ(e.window.window.cursors, (std::vector<int32_t>{8, 0, 6}));
-       EXPECT_EQ(e.window.hoverOwner.Get(), nullptr);
-     },
-     "2.OnMouseEnter 0.OnMouseEnter 2.GetCursorAt 2.GetCursorAt 2.GetCursorAt 2.GetCursorAt "},
-    {"a kept pointer is let go by a control that is disabled",
-     [](Events& e) {
-       e.stage.listens = false;
-       e.front.cursor = -8;
-       e.window.MouseOver(kOverlap, {});
-       e.front.SetEnabled(false);
-       e.window.MouseOver(kOverlap, {});
-       e.stage.listens = true;
-       e.window.MouseOver(kOnBack, {});
-     },
-     "1.OnMouseEnter 2.OnMouseLeave 1.GetCursorAt "},
-    {"an open popup alone is asked for the cursor",
-     [](Events& e) {
-       e.ShowPopup();
-       e.window.MouseOver(kOverlap, {});
-       e.window.MouseOver({6, 6}, {});
-     },
-     "9.OnMouseEnter 0.OnMouseEnter 9.GetCursorAt "},
-    {"the right button captures nothing",
-     [](Events& e) {
-       e.window.RightMouseDown(kOverlap, {}, false);
-       e.Drag(kOnBack);
-       EXPECT_EQ(e.front.GetTrackingMode(), kTrackNone);
-     },
-     "2.OnRightMouseDown "},
-    {"idling goes by the clock, and brings a waiting key",
-     [](Events& e) {
-       e.window.SetFocus(&e.front, true);
-       e.stage.Heard();
-       e.clock.now = 25;
-       e.window.IdleTree();
-       e.window.SetPendingKey(65);
-       e.clock.now = 26;
-       e.window.IdleTree();
-       e.clock.now = 51;
-       e.window.IdleTree();
-     },
-     "2.OnIdle 1.OnIdle 0.OnIdle 2.OnKeyDown "},
+     "0.OnMouseDown closed "},
+    {"a press on the popup leaves it open; a second one isn't shown", "Pp |  Px Dp ? ",
+     "0.OnCaptureGained 9.OnMouseDown open "},
+    {"without a window nobody is pressed, though the focus goes", "F  |  W  Dx Ux",
+     "1.OnFocusLost 0.OnFocusChanged no 0.OnCaptureLost "},
+    {"hover enters from the hit control up and leaves what isn't hit", "Hb Hr Ho",
+     "1.OnMouseEnter 0.OnMouseEnter 1.GetCursorAt =0 1.OnMouseLeave 0.GetCursorAt =0 "
+     "0.OnMouseLeave =0 "},
+    {"an open popup alone is asked for the cursor", "Pp |  Hx Hp",
+     "=0 9.OnMouseEnter 0.OnMouseEnter 9.GetCursorAt =0 "},
+    {"the right button captures nothing", "Rx Mb Ux", "3.OnRightMouseDown 0.OnCaptureLost "},
+    {"idling goes by the clock, and brings a waiting key", "F  |  I\x19 Y  I\x01 I\x19",
+     "3.OnIdle 2.OnIdle 1.OnIdle 0.OnIdle 1.OnKeyDown "},
 };
 
 TEST(TreeEvents, ReachTheControlsThatTheyAreFor) {
   for (const EventCase& c : kEventCases) {
     Events events;
-    c.play(events);
+    events.Play(c.script);
     EXPECT_EQ(events.stage.Heard(), c.heard) << c.what;
   }
 }
 
+TEST(TreeEvents, NegativeCursorsKeepThePointerUntilItsControlIsDisabled) {
+  Events events;
+  events.window.DeleteChild(&events.inner);
+  events.Play("|  K  Hx Ho k  Ho X  Ho Hb");
+  EXPECT_EQ(events.stage.Heard(),
+            "2.OnMouseEnter 0.OnMouseEnter 2.GetCursorAt =-8 2.GetCursorAt =-8 2.GetCursorAt =0 "
+            "2.SetState =0 1.OnMouseEnter 2.OnMouseLeave 1.GetCursorAt =0 ");
+  EXPECT_EQ(events.window.window.cursors, (std::vector<int32_t>{8, 0}));
+}
+
 TEST(TreeEvents, PointsArriveInTheControlsOwnSpace) {
   Events events;
-  events.window.MouseDownAt(kOverlap);
-  EXPECT_EQ(events.front.lastPoint, (Point{10, 10}));
-  events.Drag({0, 0});
-  EXPECT_EQ(events.front.lastPoint, (Point{-35, -35}));
-  EXPECT_EQ(events.window.GetLastMousePoint(), (Point{0, 0}));
+  events.Play("Dx");
+  EXPECT_EQ(events.inner.lastPoint, (Point{10, 10}));
+  events.Play("Mp");
+  EXPECT_EQ(events.inner.lastPoint, (Point{-29, -29}));
+}
+
+TEST(TreeEvents, RightButtonOpensTheNearestContextMenuBesideThePress) {
+  Events events;
+  for (ControlPane* const pane :
+       std::initializer_list<ControlPane*>{&events.front, &events.window}) {
+    auto* const menu = new PopupContextMenu(pane, nullptr);
+    menu->EnsureMenu();
+    pane->SetContextMenu(menu);
+  }
+  Point at = {4, 5};
+  events.inner.LocalToGlobalPoint(&at);
+  EXPECT_TRUE(events.window.RightMouseDown(at, {}, false));
+  PopupContextMenu* const opened = events.front.GetContextMenu(nullptr, {}, nullptr);
+  ASSERT_NE(events.window.GetPopup(), nullptr);
+  EXPECT_EQ(events.window.GetPopup(), opened->GetMenu());
+  const Rect place = opened->GetMenu()->GetGlobalBounds();
+  EXPECT_EQ((Point{place.left, place.top}), (Point{at.x + 1, at.y - 4}));
+  delete opened;
+  EXPECT_EQ(events.front.GetContextMenu(nullptr, {}, nullptr), nullptr);
 }
 
 TEST(TreeEvents, TabGoesRoundThoseThatCanTakeTheFocus) {
@@ -200,7 +159,8 @@ TEST(TreeEvents, TabGoesRoundThoseThatCanTakeTheFocus) {
   for (int32_t paneId = 1; paneId <= 5; ++paneId) {
     events.window.AddToFocusRing(events.window.FindChildById(paneId));
   }
-  events.front.SetEnabled(false);
+  events.front.SetState(kStateDisabled);
+  events.front.DeleteAllChildren();
   events.window.DeleteChild(events.window.FindChildById(4));
   const Modifiers shift = {.shift = true};
   struct Step {

@@ -26,11 +26,7 @@ class Script {
   void Step() {
     clock.now += Below(20);
     if (!stage.IsAlive(root)) StartAnew();
-    if (Below(3) == 0) {
-      Change();
-    } else {
-      Send();
-    }
+    Below(3) == 0 ? Change() : Send();
   }
 
   // Null where all is well.
@@ -56,7 +52,11 @@ class Script {
   int64_t rootsLost = 0;
 
  private:
-  uint32_t Below(uint32_t end) { return static_cast<uint32_t>(random() % end); }
+  uint32_t Below(size_t end) { return static_cast<uint32_t>(random() % end); }
+  ControlPane& OwnerOf(ControlPane& pane) {
+    return pane.GetOwner() != nullptr ? *pane.GetOwner() : pane;
+  }
+  int32_t AnyState() { return Below(3) == 0 ? static_cast<int32_t>(Below(4)) : kStateNormal; }
   Point AnyPoint() {
     return {static_cast<int32_t>(Below(80)) - 8, static_cast<int32_t>(Below(70)) - 8};
   }
@@ -76,11 +76,7 @@ class Script {
   void ActInsideAHook() {
     if (nesting == 2 || Below(6) != 0) return;
     ++nesting;
-    if (Below(4) == 0) {
-      Send();
-    } else {
-      Change();
-    }
+    Below(4) == 0 ? Send() : Change();
     --nesting;
   }
 
@@ -97,92 +93,56 @@ class Script {
     if (Below(8) != 0) owner->AddChild(pane, Below(2) == 0);
   }
 
+  // Something is done to two controls, which may be one.
   void Change() {
-    if (!stage.IsAlive(root)) return;
-    ControlPane* const a = Any();
-    ControlPane* const b = Any();
-    switch (Below(20)) {
-      case 0:
-      case 1:
-      case 2:
-      case 3:
-        return Make();
-      case 4:
-        if (a != root || Below(6) == 0) delete a;
-        return;
-      case 5:
-        if (a != root) a->GetOwner() != nullptr ? a->GetOwner()->DeleteChild(a) : delete a;
-        return;
-      case 6:
-        if (a->GetOwner() != nullptr) a->GetOwner()->RemoveChild(a);
-        return;
-      case 7:
-      case 8:
-        return a->AddChild(b, Below(2) == 0);
-      case 9:
-        return a->InsertChild(b, static_cast<int32_t>(Below(4)));
-      case 10:
-        return Below(2) == 0 ? a->MoveToFront() : a->MoveToBack();
-      case 11:
-        return a->SetStateTree(Below(3) == 0 ? static_cast<int32_t>(Below(4)) : kStateNormal);
-      case 12:
-        return a->SetBounds(AnyRect());
-      case 13:
-        return a->SetDirty(true);
-      case 14:
-        return a->SetPendingDelete(a != root && Below(4) == 0);
-      case 15:
-        return root->SetFocus(a, true);
-      case 16:
-        return root->AddToFocusRing(a);
-      case 17:
-        if (a->IsPopup()) root->ShowPopup(a, false, false);
-        return;
-      case 18:
-        return Below(2) == 0 ? root->HidePopup() : root->ClearFocusRing();
-      default:
-        return Below(8) == 0 ? a->DeleteAllChildren() : a->SetStateTree(kStateNormal);
-    }
+    using C = ControlPane;
+    static constexpr void (*kChanges[])(Script&, C&, C&) = {
+        [](Script& s, C&, C&) { s.Make(); },
+        [](Script& s, C&, C&) { s.Make(); },
+        [](Script& s, C&, C&) { s.Make(); },
+        [](Script& s, C& a, C&) { &a != s.root || s.Below(6) == 0 ? delete &a : void(); },
+        [](Script& s, C& a, C&) { &a != s.root ? s.root->DeleteChild(&a) : void(); },
+        [](Script& s, C& a, C&) { s.OwnerOf(a).RemoveChild(&a); },
+        [](Script&, C& a, C& b) { a.AddChild(&b, true); },
+        [](Script&, C& a, C& b) { a.AddChild(&b, false); },
+        [](Script&, C& a, C& b) { a.InsertChild(&b, 1); },
+        [](Script&, C& a, C&) { a.MoveToFront(); },
+        [](Script&, C& a, C&) { a.MoveToBack(); },
+        [](Script& s, C& a, C&) { a.SetStateTree(s.AnyState()); },
+        [](Script&, C& a, C&) { a.SetStateTree(kStateNormal); },
+        [](Script& s, C& a, C&) { a.SetBounds(s.AnyRect()); },
+        [](Script&, C& a, C&) { a.SetDirty(true); },
+        [](Script& s, C& a, C&) { a.SetPendingDelete(&a != s.root && s.Below(4) == 0); },
+        [](Script& s, C& a, C&) { s.root->SetFocus(&a, true); },
+        [](Script& s, C& a, C&) { s.root->AddToFocusRing(&a); },
+        [](Script& s, C& a, C&) { s.root->ShowPopup(a.IsPopup() ? &a : nullptr, false, false); },
+        [](Script& s, C&, C&) { s.root->HidePopup(); },
+        [](Script& s, C& a, C&) { s.Below(8) == 0 ? a.DeleteAllChildren() : void(); },
+    };
+    if (stage.IsAlive(root)) kChanges[Below(std::size(kChanges))](*this, *Any(), *Any());
   }
 
   void Send() {
-    if (!stage.IsAlive(root)) return;
-    ControlPane* const a = Any();
-    switch (Below(14)) {
-      case 0:
-      case 1:
-        root->MouseDown(AnyPoint(), {}, Below(2) == 0, kLeftButton);
-        return;
-      case 2:
-      case 3:
-        return root->MouseDrag(AnyPoint(), 1, 1, {}, kLeftButton);
-      case 4:
-        root->MouseUp(AnyPoint(), kLeftButton);
-        return;
-      case 5:
-      case 6:
-        root->MouseOver(AnyPoint(), {});
-        return;
-      case 7:
-        root->RightMouseDown(AnyPoint(), {}, false);
-        return;
-      case 8:
-        root->KeyDown(Below(2) == 0 ? 9 : 65, {.shift = Below(2) == 0});
-        return;
-      case 9:
-        return root->IdleTree();
-      case 10:
-        return root->UpdateTree();
-      case 11:
-        return a->RedrawSelf();
-      case 12:
-        a->AnimateBounds(AnyRect(), 0.01);
-        a->CollectDirtyRect();
-        return;
-      default:
-        root->FindHelpControl(AnyPoint());
-        return root->SetWindowContext(Below(6) == 0 ? nullptr : &root->window);
-    }
+    static constexpr void (*kEvents[])(Script&, Panel&, const Point&) = {
+        [](Script&, Panel& top, const Point& at) { top.MouseDownAt(at); },
+        [](Script&, Panel& top, const Point& at) { top.MouseDownAt(at); },
+        [](Script&, Panel& top, const Point& at) { top.MouseDrag(at, 1, 1, {}, kLeftButton); },
+        [](Script&, Panel& top, const Point& at) { top.MouseDrag(at, 1, 1, {}, kLeftButton); },
+        [](Script&, Panel& top, const Point& at) { top.MouseUp(at, kLeftButton); },
+        [](Script&, Panel& top, const Point& at) { top.MouseOver(at, {}); },
+        [](Script&, Panel& top, const Point& at) { top.MouseOver(at, {}); },
+        [](Script&, Panel& top, const Point& at) { top.RightMouseDown(at, {}, false); },
+        [](Script& s, Panel& top, const Point&) { top.KeyDown(s.Below(2) == 0 ? 9 : 65, {}); },
+        [](Script&, Panel& top, const Point&) { top.IdleTree(); },
+        [](Script&, Panel& top, const Point&) { top.UpdateTree(); },
+        [](Script& s, Panel&, const Point&) { s.Any()->RedrawSelf(); },
+        [](Script& s, Panel&, const Point&) { s.Any()->AnimateBounds(s.AnyRect(), 0.01); },
+        [](Script& s, Panel&, const Point&) { s.Any()->CollectDirtyRect(); },
+        [](Script& s, Panel& top, const Point&) {
+          top.SetWindowContext(s.Below(6) == 0 ? nullptr : &top.window);
+        },
+    };
+    if (stage.IsAlive(root)) kEvents[Below(std::size(kEvents))](*this, *root, AnyPoint());
   }
 
   std::mt19937 random;
