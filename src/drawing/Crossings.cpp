@@ -99,7 +99,9 @@ void CrossingRows::Reset(size_t rows) {
   } catch (const std::bad_alloc&) {
     throw App::ExceptionInfo{App::kOutOfMemory, nullptr};
   }
-  std::fill_n(lists.begin(), rows, List{});
+  for (size_t i = usedFrom; i < usedTo; ++i) lists[i] = {};
+  usedFrom = lists.size();
+  usedTo = 0;
 }
 
 void CrossingRows::Add(int32_t row, int32_t x, int32_t winding) {
@@ -109,7 +111,10 @@ void CrossingRows::Add(int32_t row, int32_t x, int32_t winding) {
   Crossing& crossing = pool.Take();
   ++taken;
   crossing = {nullptr, x, winding};
-  List& list = lists[static_cast<size_t>(row)];
+  const auto index = static_cast<size_t>(row);
+  usedFrom = std::min(usedFrom, index);
+  usedTo = std::max(usedTo, index + 1);
+  List& list = lists[index];
   (list.last != nullptr ? list.last->next : list.first) = &crossing;
   list.last = &crossing;
 }

@@ -47,7 +47,8 @@ class CrossingRows {
   // panel at scale 2.
   static constexpr int64_t kMostCrossings = int64_t{1} << 20;
 
-  // Empties `rows` rows, counted from 0. Throws App::ExceptionInfo kOutOfMemory.
+  // Empties all rows and makes sure that there are `rows` of them, counted from 0. Costs as much as
+  // the rows between the first and the last that was used. Throws App::ExceptionInfo kOutOfMemory.
   void Reset(size_t rows);
 
   // Throws App::ExceptionInfo kOutOfMemory, also where the path has all its crossings.
@@ -63,6 +64,8 @@ class CrossingRows {
   };
 
   std::vector<List> lists;
+  size_t usedFrom = 0;  // lists outside of these are empty
+  size_t usedTo = 0;
   CrossingPool pool;
   int64_t taken = 0;
 };
