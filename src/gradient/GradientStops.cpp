@@ -33,16 +33,31 @@ void OpenSlot(Entry* entries, int32_t slot) {
   std::move_backward(entries + slot, end - 1, end);
 }
 
+// The opposite: the entry at `slot` is dropped, and the last one stands twice then.
+template <typename Entry>
+void CloseSlot(Entry* entries, int32_t slot) {
+  std::move(entries + slot + 1, entries + GradientStopLimit, entries + slot);
+}
+
+bool HoldsStop(const GradientView& view, int32_t slot) {
+  return slot >= 0 && slot < CountStops(view);
+}
+
+void SwapStops(GradientView& view, int32_t a, int32_t b) {
+  std::swap(view.stopPosition[a], view.stopPosition[b]);
+  std::swap(view.stopRed[a], view.stopRed[b]);
+  std::swap(view.stopGreen[a], view.stopGreen[b]);
+  std::swap(view.stopBlue[a], view.stopBlue[b]);
+}
+
 // Exchanges two stops of the table and mirrors both; with one stop as `low` and `high` it mirrors
 // that one.
 void MirrorPair(GradientView& view, int32_t low, int32_t high) {
   const int32_t lowPosition = HoldToRamp(view.stopPosition[low]);
   const int32_t highPosition = HoldToRamp(view.stopPosition[high]);
+  SwapStops(view, low, high);
   view.stopPosition[low] = static_cast<uint8_t>(GradientPositionEnd - highPosition);
   view.stopPosition[high] = static_cast<uint8_t>(GradientPositionEnd - lowPosition);
-  std::swap(view.stopRed[low], view.stopRed[high]);
-  std::swap(view.stopGreen[low], view.stopGreen[high]);
-  std::swap(view.stopBlue[low], view.stopBlue[high]);
 }
 
 float RandomComponent(RuntimeRandom& random) {
@@ -75,6 +90,39 @@ int32_t InsertStop(GradientView& view, int32_t position, float red, float green,
   view.stopGreen[slot] = green;
   view.stopBlue[slot] = blue;
   return slot;
+}
+
+int32_t MoveStop(GradientView& view, int32_t slot, int32_t position) {
+  if (!HoldsStop(view, slot)) return slot;
+  const int32_t stopCount = CountStops(view);
+  const auto newPosition = static_cast<uint8_t>(HoldToRamp(position));
+  if (newPosition > view.stopPosition[slot]) {
+    for (; slot + 1 < stopCount && newPosition >= view.stopPosition[slot + 1]; ++slot) {
+      SwapStops(view, slot, slot + 1);
+    }
+  } else {
+    for (; slot > 0 && newPosition < view.stopPosition[slot - 1]; --slot) {
+      SwapStops(view, slot, slot - 1);
+    }
+  }
+  view.stopPosition[slot] = newPosition;
+  return slot;
+}
+
+void RemoveStop(GradientView& view, int32_t slot) {
+  if (!HoldsStop(view, slot)) return;
+  CloseSlot(view.stopPosition, slot);
+  CloseSlot(view.stopRed, slot);
+  CloseSlot(view.stopGreen, slot);
+  CloseSlot(view.stopBlue, slot);
+  view.stopPosition[GradientStopLimit - 1] = GradientNoStop;
+}
+
+void SetStopColor(GradientView& view, int32_t slot, float red, float green, float blue) {
+  if (!HoldsStop(view, slot)) return;
+  view.stopRed[slot] = red;
+  view.stopGreen[slot] = green;
+  view.stopBlue[slot] = blue;
 }
 
 void FlipStops(GradientView& view) {

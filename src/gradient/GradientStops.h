@@ -19,6 +19,21 @@ void ClearStops(GradientView& view);
 // The ramp is left for the caller to rebuild.
 int32_t InsertStop(GradientView& view, int32_t position, float red, float green, float blue);
 
+// Moves a stop and returns the slot where it stands then. It passes its neighbours one by one: to
+// the right also those at `position`, to the left only those beyond it.
+//
+// position   0 to 200; beyond that the nearer end is taken
+// A slot that holds no stop stays as it is. The ramp is left for the caller to rebuild.
+int32_t MoveStop(GradientView& view, int32_t slot, int32_t position);
+
+// Takes a stop out; those behind it move up. A slot that holds no stop stays as it is. The ramp is
+// left for the caller to rebuild.
+void RemoveStop(GradientView& view, int32_t slot);
+
+// Any numbers. A slot that holds no stop stays as it is. The ramp is left for the caller to
+// rebuild.
+void SetStopColor(GradientView& view, int32_t slot, float red, float green, float blue);
+
 // Mirrors the map left to right and rebuilds the ramp. A map of one stop or none stays as it is,
 // ramp included. A stored position of 201 to 254 counts as 200.
 void FlipStops(GradientView& view);

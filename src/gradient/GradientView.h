@@ -36,3 +36,9 @@ struct GradientView {
 // The number of stops, 0 to GradientStopLimit: the slots before the first free one. What lies
 // behind that slot is no stop, whatever its bytes say.
 int32_t CountStops(const GradientView& view);
+
+// Copies the whole map, ramp and stops.
+void CopyColorMap(const GradientView& source, GradientView& destination);
+
+// Whether ramps and all slots, used or free, hold equal numbers: a NaN equals nothing, 0.0 is -0.0.
+bool AreEqual(const GradientView& a, const GradientView& b);
