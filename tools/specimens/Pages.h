@@ -14,6 +14,9 @@ void DrawIconPage(ImageBuffer& page);
 void DrawButtonPage(ImageBuffer& page);
 void DrawShapePage(ImageBuffer& page);
 void DrawBlendPage(ImageBuffer& page);
+// The colour map's panel at work, and at its ends: disabled, no stop, fifty stops, presets.
+void DrawEditorPage(ImageBuffer& page);
+void DrawEditorEndsPage(ImageBuffer& page);
 // Text as it stands on panels, the widths of pairs, and every glyph of every font.
 void DrawTextPage(ImageBuffer& page);
 void DrawGlyphsPage(ImageBuffer& page);
