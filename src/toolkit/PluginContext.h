@@ -5,10 +5,9 @@
 
 class NativeImageBuffer;
 
+// Never deleted through this class: it stands on the stack of the event.
 class PluginContext {
  public:
-  virtual ~PluginContext() = default;
-
   // Puts a part of the buffer on the host's surface. Coordinates are logical pixels.
   //
   // Returns false where this is not a draw event; nothing is drawn then.
@@ -18,4 +17,7 @@ class PluginContext {
   virtual double GetDownsampleX() const { return 1.0; }
   virtual double GetDownsampleY() const { return 1.0; }
   virtual double GetPixelAspect() const { return 1.0; }
+
+ protected:
+  ~PluginContext() = default;
 };
