@@ -1,6 +1,7 @@
 // The exported function: one switch from the host's selector to what answers it.
 #include "AE_Effect.h"
 #include "AE_EffectUI.h"
+#include "host/HandleColorMapEvent.h"
 #include "keyframes/CommandsPanel.h"
 #include "shell/About.h"
 #include "shell/GlobalCommands.h"
@@ -22,8 +23,10 @@ namespace {
 // The colour map's row takes its own events; those of every other row belong to the Commands row,
 // whose result the host has no use for.
 PF_Err DispatchEvent(PF_InData* in_data, PF_OutData* out_data, PF_ParamDef** params,
-                     PF_EventExtra* extra) {
-  if (extra->effect_win.index == kColorMapPanel) return PF_Err_NONE;
+                     PF_LayerDef* output, PF_EventExtra* extra) {
+  if (extra->effect_win.index == kColorMapPanel) {
+    return HandleColorMapEvent(in_data, out_data, params, output, extra);
+  }
   HandleCommandsEvent(in_data, out_data, params, extra);
   return PF_Err_NONE;
 }
@@ -54,7 +57,7 @@ PF_Err Dispatch(PF_Cmd cmd, PF_InData* in_data, PF_OutData* out_data, PF_ParamDe
       UpdateParamsUI(in_data, out_data, params);
       return PF_Err_NONE;
     case PF_Cmd_EVENT:
-      return DispatchEvent(in_data, out_data, params, static_cast<PF_EventExtra*>(extra));
+      return DispatchEvent(in_data, out_data, params, output, static_cast<PF_EventExtra*>(extra));
     case PF_Cmd_GET_FLATTENED_SEQUENCE_DATA:
       return CopyFlattenedSequence(in_data, out_data);
     default:
