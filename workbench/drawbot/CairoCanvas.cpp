@@ -23,6 +23,14 @@ cairo_filter_t FilterOf(DRAWBOT_InterpolationPolicy policy) {
   return policy == kDRAWBOT_InterpolationPolicy_High ? CAIRO_FILTER_BEST : CAIRO_FILTER_BILINEAR;
 }
 
+// Whether each of the image's pixels covers whole pixels of the picture, which are then its copies.
+bool CoversWholePixels(const DrawMatrix& m, const DRAWBOT_PointF32& origin) {
+  const auto isWhole = [](double number) { return number == std::floor(number); };
+  const DrawPoint corner = m.Apply({origin.x, origin.y});
+  return m.xy == 0.0 && m.yx == 0.0 && m.xx >= 1.0 && m.yy >= 1.0 && isWhole(m.xx) &&
+         isWhole(m.yy) && isWhole(corner.x) && isWhole(corner.y);
+}
+
 double Near(double coordinate) {
   if (std::isnan(coordinate)) return 0.0;
   return std::clamp(coordinate, -kFarthestPixel, kFarthestPixel);
@@ -188,7 +196,9 @@ class CairoCanvas : public PictureCanvas {
     cairo_set_matrix(context.get(), &imageMatrix);
     cairo_set_source_surface(context.get(), source.get(), origin.x, origin.y);
     cairo_pattern_set_extend(cairo_get_source(context.get()), CAIRO_EXTEND_PAD);
-    cairo_pattern_set_filter(cairo_get_source(context.get()), FilterOf(state.interpolation));
+    cairo_pattern_set_filter(cairo_get_source(context.get()), CoversWholePixels(matrix, origin)
+                                                                  ? CAIRO_FILTER_NEAREST
+                                                                  : FilterOf(state.interpolation));
     cairo_paint_with_alpha(context.get(), opacity);
   }
 
