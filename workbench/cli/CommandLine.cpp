@@ -110,6 +110,8 @@ void AddPanelOptions(CLI::App& command, PanelOptions& options) {
   add("--zoom", ParseZoom, options.zoom, "Pixels for each of the row, 1 to 8; default 1");
   add("--panel-color", ParsePanelColor, options.color,
       "R,G,B of the host's panel, each 0 to 255; default 45,45,45");
+  add("--over", ParseGround, options.ground,
+      "checker or black: puts a ground behind the frames of a script; default none");
   command.add_option("--keyframes", options.keyframes,
                      "What the last run wrote: a .csv, .json or .txt file");
   command.add_option("--record-calls", options.recordCalls,

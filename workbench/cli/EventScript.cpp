@@ -5,6 +5,7 @@
 #include <array>
 #include <charconv>
 #include <fstream>
+#include <limits>
 #include <sstream>
 #include <string>
 #include <string_view>
@@ -56,15 +57,19 @@ std::string Shown(std::string_view word) {
   return "\"" + text + (word.size() > kMostLetters ? "...\"" : "\"");
 }
 
-int32_t TakeNumber(Words& words, const char* what, int32_t least, int32_t most) {
-  const std::string_view word = words.Take();
-  int32_t number = 0;
+template <typename Number>
+Number NumberFrom(std::string_view word, const char* what, Number least, Number most) {
+  Number number = 0;
   const auto [end, error] = std::from_chars(word.data(), word.data() + word.size(), number);
   if (error != std::errc{} || end != word.data() + word.size() || number < least || number > most) {
     Refuse(std::string(what) + " is a whole number from " + std::to_string(least) + " to " +
            std::to_string(most) + ", not " + Shown(word));
   }
   return number;
+}
+
+int32_t TakeNumber(Words& words, const char* what, int32_t least, int32_t most) {
+  return NumberFrom(words.Take(), what, least, most);
 }
 
 void TakePointer(Words& words, ScriptEvent& event) {
@@ -86,13 +91,32 @@ void TakePointer(Words& words, ScriptEvent& event) {
   }
 }
 
-void TakeFile(Words& words, ScriptEvent& event) {
-  event.file = words.Rest();
-  words = Words({});
-  if (event.file.extension() != ".png") {
-    Refuse("snapshot takes the name of a file that ends in .png, not " +
-           Shown(event.file.string()));
+bool IsPicture(std::string_view name) {
+  return std::filesystem::path(name).extension() == ".png";
+}
+
+// The name of a picture, which may hold blanks.
+void TakePicture(std::string_view name, const char* taker, ScriptEvent& event) {
+  if (!IsPicture(name)) {
+    Refuse(std::string(taker) + " takes the name of a file that ends in .png, not " + Shown(name));
   }
+  event.file = name;
+}
+
+void TakeSnapshot(Words& words, ScriptEvent& event) {
+  TakePicture(words.Rest(), "snapshot", event);
+  words = Words({});
+}
+
+// The number stands behind the name.
+void TakeFrame(Words& words, ScriptEvent& event) {
+  constexpr int64_t kFarthest = std::numeric_limits<int32_t>::max();
+  const std::string_view rest = words.Rest();
+  words = Words({});
+  const size_t blank = rest.find_last_of(kBlanks);
+  if (IsPicture(rest) || blank == std::string_view::npos) return TakePicture(rest, "frame", event);
+  TakePicture(Trimmed(rest.substr(0, blank)), "frame", event);
+  event.frame = NumberFrom(rest.substr(blank + 1), "N", -kFarthest, kFarthest);
 }
 
 void TakeColor(Words& words, ScriptEvent& event) {
@@ -118,13 +142,14 @@ struct EventWord {
   Kind kind;
   void (*take)(Words& words, ScriptEvent& event);
 };
-constexpr std::array<EventWord, 9> kEventWords = {{
+constexpr std::array<EventWord, 10> kEventWords = {{
     {"click", Kind::kClick, TakePointer},
     {"drag", Kind::kDrag, TakePointer},
     {"release", Kind::kRelease, TakePointer},
     {"move", Kind::kMove, TakePointer},
     {"draw", Kind::kDraw, TakeNothing},
-    {"snapshot", Kind::kSnapshot, TakeFile},
+    {"snapshot", Kind::kSnapshot, TakeSnapshot},
+    {"frame", Kind::kFrame, TakeFrame},
     {"pick", Kind::kAnswer, TakeColor},
     {"cancel", Kind::kAnswer, TakeNothing},
     {"instance", Kind::kInstance, TakeInstance},
@@ -142,8 +167,8 @@ ScriptEvent EventFrom(std::string_view text) {
     if (words.AreLeft()) Refuse(Shown(words.Rest()) + " is more than " + Shown(word) + " takes");
     return event;
   }
-  Refuse(Shown(word) + " is none of click, drag, release, move, draw, snapshot, pick, cancel and " +
-         "instance");
+  Refuse(Shown(word) + " is none of click, drag, release, move, draw, snapshot, frame, pick, " +
+         "cancel and instance");
 }
 
 std::string ReadText(const std::filesystem::path& path) {

@@ -12,14 +12,15 @@
 inline constexpr int32_t kMostInstances = 64;
 
 struct ScriptEvent {
-  enum class Kind { kClick, kDrag, kRelease, kMove, kDraw, kSnapshot, kAnswer, kInstance };
+  enum class Kind { kClick, kDrag, kRelease, kMove, kDraw, kSnapshot, kFrame, kAnswer, kInstance };
 
   Kind kind = Kind::kDraw;
   int line = 0;                        // in the file, from 1
   PF_Point point{};                    // of a pointer's event, in the row
   PF_Modifiers modifiers = 0;          //
   A_long clicks = 1;                   // of a click
-  std::filesystem::path file;          // of a snapshot
+  std::filesystem::path file;          // of a snapshot or a frame
+  std::optional<int64_t> frame;        // the number of a frame; none: the loudest one
   std::optional<PF_PixelFloat> color;  // of an answer to the colour picker; none: cancelled
   int32_t number = 1;                  // of an instance, 1 to kMostInstances
 };
@@ -28,6 +29,7 @@ struct ScriptEvent {
 //
 //   click X Y [shift] [alt] [ctrl] [double]     drag, release and move X Y [shift] [alt] [ctrl]
 //   draw      snapshot FILE.png      pick R G B, each 0 to 255      cancel      instance N
+//   frame FILE.png [N]
 //
 // A # and all behind it is a comment.
 std::vector<ScriptEvent> ReadEventScript(const std::filesystem::path& path);

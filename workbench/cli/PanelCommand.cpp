@@ -10,21 +10,32 @@
 #include "workbench/audio/AudioDecoder.h"
 #include "workbench/cli/EventScript.h"
 #include "workbench/cli/KeyframeRun.h"
+#include "workbench/cli/LoudestFrame.h"
 #include "workbench/cli/Stage.h"
 #include "workbench/drawbot/CairoCanvas.h"
 #include "workbench/export/FrameAsPng.h"
+#include "workbench/export/Ground.h"
 #include "workbench/export/PartFile.h"
 
 namespace {
 
-// A row of one instance, as the user sees it.
+// A frame as the host keeps it: good until the effect asks for it anew.
+struct ShownFrame {
+  int64_t number = 0;
+  int64_t rerenderCount = 0;  // when it was rendered
+  std::string png;
+};
+
+// A row of one instance, as the user sees it, and the frame beside it.
 struct ShownRow {
+  EffectInstance* instance = nullptr;
   std::unique_ptr<PictureCanvas> canvas;
   std::unique_ptr<PanelRow> row;
+  std::optional<ShownFrame> frame;
 };
 
 ShownRow OpenRow(Stage& stage, EffectInstance& instance, const PanelOptions& options) {
-  ShownRow shown{nullptr, stage.Session().OpenRow(instance, options.row)};
+  ShownRow shown{&instance, nullptr, stage.Session().OpenRow(instance, options.row), {}};
   const PF_UnionableRect& frame = shown.row->pane.Frame();
   const CanvasArea area{frame.left, frame.top, frame.right - frame.left, frame.bottom - frame.top,
                         options.zoom};
@@ -40,6 +51,15 @@ ShownRow OpenRow(Stage& stage, EffectInstance& instance, const PanelOptions& opt
   return shown;
 }
 
+std::string RenderAsPng(Stage& stage, EffectInstance& instance, int64_t number, Ground ground) {
+  const Comp& comp = stage.ProjectComp();
+  OutputWorld world(comp.width, comp.height);
+  stage.Session().RenderFrame(instance, number, world);
+  std::vector<PF_Pixel8> room;
+  return FrameAsPng(LayOver(
+      ground, {world.Row(0).data(), world.RowBytes(), world.Width(), world.Height()}, room));
+}
+
 std::string PngOf(const PictureCanvas& canvas) {
   const Picture picture = canvas.Copy();
   return FrameAsPng({picture.pixels.data(), picture.width * static_cast<int32_t>(sizeof(PF_Pixel8)),
@@ -49,8 +69,9 @@ std::string PngOf(const PictureCanvas& canvas) {
 // The panel while a script is replayed in it.
 class PanelReplay {
  public:
-  PanelReplay(Stage& replayStage, const PanelOptions& panelOptions)
-      : stage(replayStage), options(panelOptions) {
+  // loudest   the number of the frame that is shown where a script names none
+  PanelReplay(Stage& replayStage, const PanelOptions& panelOptions, int64_t loudest)
+      : stage(replayStage), options(panelOptions), loudestFrame(loudest) {
     Switch(1);
   }
 
@@ -70,6 +91,8 @@ class PanelReplay {
       case ScriptEvent::Kind::kSnapshot:
         Row().DrawIfInvalid();
         return Add(event.file, PngOf(*rows[current].canvas));
+      case ScriptEvent::Kind::kFrame:
+        return Add(event.file, FrameOf(rows[current], event.frame.value_or(loudestFrame)));
       case ScriptEvent::Kind::kAnswer:
         return Row().pane.colorAnswers.push_back(event.color);
       case ScriptEvent::Kind::kInstance:
@@ -113,6 +136,15 @@ class PanelReplay {
     notes += "Line " + std::to_string(event.line) + ": cursor " + std::to_string(cursor) + "\n";
   }
 
+  const std::string& FrameOf(ShownRow& shown, int64_t number) {
+    const int64_t rerenders = shown.row->rerenderCount;
+    std::optional<ShownFrame>& frame = shown.frame;
+    if (!frame || frame->number != number || frame->rerenderCount != rerenders) {
+      frame = {number, rerenders, RenderAsPng(stage, *shown.instance, number, options.ground)};
+    }
+    return frame->png;
+  }
+
   // Answers that wait for a colour picker go along.
   void Switch(int32_t number) {
     if (number == current) return;
@@ -140,6 +172,7 @@ class PanelReplay {
 
   Stage& stage;
   const PanelOptions& options;
+  int64_t loudestFrame;
   std::map<int32_t, ShownRow> rows;  // by instance
   int32_t current = 0;
   std::list<PartFile> files;
@@ -169,10 +202,12 @@ int RunPanel(const StageOptions& stageOptions, const PanelOptions& options) {
   std::vector<ScriptEvent> script;
   if (!options.events.empty()) script = ReadEventScript(options.events);
   const std::string layerName = options.audio.empty() ? "Solid" : options.audio.filename().string();
-  Stage stage(stageOptions, layerName, SoundOf(options));
+  const std::shared_ptr<const AudioClip> sound = SoundOf(options);
+  Stage stage(stageOptions, layerName, sound);
   RequireBoundedRun(stage.ProjectComp());
   stage.Session().Host().Profile().interfaceColor = InterfaceColor(options.color);
-  PanelReplay replay(stage, options);
+  const Layer& layer = stage.Instance().EffectLayer();
+  PanelReplay replay(stage, options, sound != nullptr ? LoudestFrame(*sound, layer) : 0);
   for (const ScriptEvent& event : script) replay.Replay(event);
   replay.Finish();
   for (const std::string& message : stage.Session().Messages()) std::cerr << message << '\n';

@@ -6,6 +6,7 @@
 #include <string>
 
 #include "AE_EffectTypes.h"
+#include "workbench/export/Ground.h"
 
 struct PanelOptions {
   std::filesystem::path audio;   // empty: silence
@@ -16,6 +17,7 @@ struct PanelOptions {
   const char* row = "Color Map";      // the name of its parameter
   int32_t zoom = 1;                   // pixels of the picture for each of the row
   PF_Pixel8 color{255, 0x2D, 0x2D, 0x2D};
+  Ground ground = Ground::kNone;  // behind the frames of a script
 };
 
 // Each reads the value of its option. Throws UsageFailure, which says what the option takes.

@@ -2,7 +2,6 @@
 #include "workbench/cli/RenderCommand.h"
 
 #include <algorithm>
-#include <cmath>
 #include <deque>
 #include <iostream>
 #include <memory>
@@ -11,7 +10,7 @@
 
 #include "workbench/Failure.h"
 #include "workbench/audio/AudioDecoder.h"
-#include "workbench/audio/LoudestMoment.h"
+#include "workbench/cli/LoudestFrame.h"
 #include "workbench/cli/OrderedWork.h"
 #include "workbench/cli/Progress.h"
 #include "workbench/cli/Stage.h"
@@ -42,13 +41,6 @@ void CheckOut(const RenderOptions& options) {
                        ": several frames need their numbers in their names, such as %05d.png.");
   }
   RequireTarget(names.NameOf(frames.first));
-}
-
-FrameSpan LoudestFrame(const AudioClip& sound, const Layer& layer) {
-  const Comp& comp = *layer.comp;
-  const double tick = layer.startTick + LoudestMoment(sound) * comp.timeScale;
-  const int64_t frame = std::llround(tick / comp.timeStep);
-  return {frame, frame};
 }
 
 void RequireReachable(const FrameSpan& frames, const Layer& layer) {
@@ -127,7 +119,8 @@ int RunRender(const StageOptions& stageOptions, const RenderOptions& options) {
   const auto sound = std::make_shared<const AudioClip>(DecodeAudioFile(options.audio));
   Stage stage(stageOptions, options.audio.filename().string(), sound);
   const Layer& layer = stage.Instance().EffectLayer();
-  const FrameSpan frames = options.frames ? *options.frames : LoudestFrame(*sound, layer);
+  const int64_t loudest = LoudestFrame(*sound, layer);
+  const FrameSpan frames = options.frames.value_or(FrameSpan{loudest, loudest});
   RequireReachable(frames, layer);
   const FrameSize size = RenderedSize(stage.ProjectComp(), options.downsample);
   const std::unique_ptr<FrameOutput> output = OpenOutput(options, stage.ProjectComp(), size);
