@@ -44,6 +44,9 @@ void CheckWorld(CommandScope& scope) {
 EffectHost::EffectHost(const std::filesystem::path& library, HostProfile hostProfile)
     : profile(std::move(hostProfile)), plugin(library) {}
 
+EffectHost::EffectHost(PF_EntryPoint linked, HostProfile hostProfile)
+    : profile(std::move(hostProfile)), plugin(linked) {}
+
 PF_InData EffectHost::MakeInData(CommandScope& scope, const RenderRequest* request) {
   PF_InData in_data{};
   in_data.inter = InteractCallbacks();

@@ -53,6 +53,8 @@ class EffectHost {
  public:
   // Loads the library; sends nothing yet. Throws JobFailure.
   explicit EffectHost(const std::filesystem::path& library, HostProfile hostProfile = {});
+  // The same for a plug-in that is linked into this program.
+  explicit EffectHost(PF_EntryPoint linked, HostProfile hostProfile = {});
   EffectHost(const EffectHost&) = delete;
   EffectHost& operator=(const EffectHost&) = delete;
 

@@ -1,4 +1,4 @@
-// The plug-in's library, loaded from a file.
+// The plug-in's library, loaded from a file, or linked into this program.
 #pragma once
 
 #include <filesystem>
@@ -11,6 +11,9 @@ class PluginLibrary {
   // Loads `path` and finds its entry point. Throws JobFailure where there is no such file, where it
   // isn't a library for this system, or where it has no entry point.
   explicit PluginLibrary(const std::filesystem::path& path);
+
+  // A plug-in that is part of this program.
+  explicit PluginLibrary(PF_EntryPoint linked) : entryPoint(linked) {}
 
   PF_EntryPoint EntryPoint() const { return entryPoint; }
 
