@@ -4,7 +4,7 @@
 #include <cstdint>
 #include <memory>
 
-#include "toolkit/CustomPanel.h"
+#include "gradient/GradientPanel.h"
 #include "toolkit/PanelRegistry.h"
 #include "toolkit/SharedBuffers.h"
 
@@ -13,7 +13,8 @@ namespace {
 constexpr int32_t kScreenBufferSide = 1024;
 constexpr float kScreenBufferScale = 2.0F;
 constexpr int32_t kColorMapPanelId = 12;
-constexpr Rect kColorMapPanelBounds = {0, 0, 306, 130};
+constexpr int32_t kColorMapPanelWidth = 306;
+constexpr int32_t kColorMapPanelHeight = 130;
 
 }  // namespace
 
@@ -21,7 +22,8 @@ void CreateCustomPanels() {
   try {
     if (ScreenBuffer() == nullptr) MakeScreenBuffer(kScreenBufferSide, kScreenBufferSide);
     ScaleScreenBuffer(kScreenBufferScale);
-    RegisterCustomPanel(std::make_unique<CustomPanel>(kColorMapPanelBounds, kColorMapPanelId));
+    RegisterCustomPanel(std::make_unique<GradientPanel>(
+        kColorMapPanelId, kColorMapPanelWidth, kColorMapPanelHeight, GradientPanel::Options{}));
   } catch (...) {
     throw "CreateCustomPanels failed!";
   }
