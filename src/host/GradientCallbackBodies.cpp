@@ -1,6 +1,8 @@
 // The functions of the table.
 #include "host/GradientCallbackBodies.h"
 
+#include "gradient/GradientClipboard.h"
+#include "gradient/GradientUndo.h"
 #include "host/HeldAppSuite.h"
 #include "host/PluginHost_AE_Impl.h"
 
@@ -31,6 +33,49 @@ bool PickColor(float* red, float* green, float* blue, void* context) {
   return true;
 }
 
+GradientClipboard ClipboardOf(void* context) {
+  GlobalRecord& global = *ContextOf(context).global;
+  return {global.clipboard, global.clipboardFilled};
+}
+
+GradientUndoSlots UndoSlotsOf(void* context) {
+  GlobalRecord& global = *ContextOf(context).global;
+  return {global.undoSnapshot, global.redoSnapshot, global.undoOwner};
+}
+
+void Copy(void* context) {
+  CopyStops(*ContextOf(context).view, ClipboardOf(context));
+}
+
+void Paste(void* context) {
+  PasteStops(ClipboardOf(context), *ContextOf(context).view);
+}
+
+bool MayPaste(void* context) {
+  return CanPaste(ClipboardOf(context));
+}
+
+void Undo(void* context) {
+  UndoStops(UndoSlotsOf(context), *ContextOf(context).view);
+}
+
+void Redo(void* context) {
+  RedoStops(UndoSlotsOf(context), *ContextOf(context).view);
+}
+
+bool MayUndo(void* context) {
+  return CanUndo(UndoSlotsOf(context), ContextOf(context).ownerIndex);
+}
+
+bool MayRedo(void* context) {
+  return CanRedo(UndoSlotsOf(context), ContextOf(context).ownerIndex);
+}
+
+void Push(void* context) {
+  const GradientCallbackContext& own = ContextOf(context);
+  PushUndo(UndoSlotsOf(context), *own.view, own.ownerIndex);
+}
+
 void NoteEdit(void* context) {
   GradientCallbackContext& own = ContextOf(context);
   own.global->undoOwner = own.ownerIndex;
@@ -42,6 +87,14 @@ void NoteEdit(void* context) {
 GradientCallbacks MakeGradientCallbacks(GradientCallbackContext& context) {
   GradientCallbacks callbacks;
   callbacks.pickColor = PickColor;
+  callbacks.copyStops = Copy;
+  callbacks.pasteStops = Paste;
+  callbacks.canPaste = MayPaste;
+  callbacks.undo = Undo;
+  callbacks.redo = Redo;
+  callbacks.canUndo = MayUndo;
+  callbacks.canRedo = MayRedo;
+  callbacks.pushUndo = Push;
   callbacks.noteEdit = NoteEdit;
   callbacks.context = &context;
   return callbacks;

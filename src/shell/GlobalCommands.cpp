@@ -2,6 +2,7 @@
 #include "shell/GlobalCommands.h"
 
 #include "gradient/CreateCustomPanels.h"
+#include "gradient/GradientUndo.h"
 #include "host/HandleLock.h"
 #include "host/HostApplication.h"
 #include "host/PluginHost_AE_Impl.h"
@@ -37,8 +38,7 @@ PF_Err SetDownGlobal(PF_InData* in_data, PF_OutData* out_data) {
       const LockedRecord<GlobalRecord> record(in_data, handle);
       error = record.Error();
       if (record) {
-        delete record->undoSnapshot;
-        delete record->redoSnapshot;
+        DropSnapshots({record->undoSnapshot, record->redoSnapshot, record->undoOwner});
       }
     }
     in_data->utils->host_dispose_handle(handle);

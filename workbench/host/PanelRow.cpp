@@ -47,6 +47,7 @@ void PanelRow::SendPointer(PF_EventExtra& event) {
   DrawIfInvalid();
   Send(event, nullptr);
   if (judge) judge(lastResult);
+  if ((event.evt_out_flags & PF_EO_ALWAYS_UPDATE) != 0) pane.Invalidate(nullptr);
   if ((event.evt_out_flags & PF_EO_UPDATE_NOW) != 0) DrawIfInvalid();
 }
 
