@@ -78,7 +78,7 @@ void CountPixels(benchmark::State& state, const Rect& area) {
 template <typename Control>
 void RepaintPanel(benchmark::State& state) {
   TenControls<Control> ten;
-  for (auto _ : state) ten.panel.RedrawSelf();
+  while (state.KeepRunning()) ten.panel.RedrawSelf();
   CountPixels(state, kPanelBounds);
 }
 BENCHMARK(RepaintPanel<FilledControl>);
@@ -88,7 +88,7 @@ template <typename Control>
 void RepaintOneControl(benchmark::State& state) {
   TenControls<Control> ten;
   ControlPane* const control = ten.panel.GetFirstChild();
-  for (auto _ : state) control->RedrawSelf();
+  while (state.KeepRunning()) control->RedrawSelf();
   CountPixels(state, control->GetBounds());
 }
 BENCHMARK(RepaintOneControl<FilledControl>);
@@ -97,7 +97,7 @@ BENCHMARK(RepaintOneControl<LabelledButton>);
 void MoveMouse(benchmark::State& state) {
   TenControls<FilledControl> ten;
   int32_t x = 0;
-  for (auto _ : state) {
+  while (state.KeepRunning()) {
     x = (x + 7) % kPanelBounds.right;
     benchmark::DoNotOptimize(ten.panel.MouseOver({x, 30}, {}));
   }

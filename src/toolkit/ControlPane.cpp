@@ -56,7 +56,11 @@ void ControlPane::DeleteUnlinked(ControlPane* control) {
   ++deletionDepth;
   delete control;
   if (deletionDepth == 1) {
-    while (firstWaiting != nullptr) delete firstWaiting;
+    while (ControlPane* const waiting = firstWaiting) {
+      firstWaiting = waiting->wardLink.next;
+      waiting->LeaveList();
+      delete waiting;
+    }
   }
   --deletionDepth;
 }

@@ -55,7 +55,7 @@ void ControlPane::RemoveChild(ControlPane* child) {
   if (!self || !watchedChild || !ContainsChild(child)) return;
   Unlink(child);
   // A hook in there may have given the child the focus again.
-  if (watchedTop) top->Forget(child);
+  if (top != nullptr && watchedTop) top->Forget(child);
 }
 
 void ControlPane::DeleteChild(ControlPane* child) {
