@@ -16,15 +16,9 @@ constexpr int kHeight = 400;
 const std::vector<Page> kPages = {
     {"icons", DrawIconPage},   {"buttons", DrawButtonPage}, {"shapes", DrawShapePage},
     {"blends", DrawBlendPage}, {"text", DrawTextPage},      {"glyphs", DrawGlyphsPage},
-    {"icons", DrawIconPage},
-    {"buttons", DrawButtonPage},
-    {"shapes", DrawShapePage},
-    {"blends", DrawBlendPage},
-    {"editor", DrawEditorPage},
-    {"editor-ends", DrawEditorEndsPage},
-    {"text", DrawTextPage},
-    {"glyphs", DrawGlyphsPage},
-    {"blends", DrawBlendPage},
+    {"icons", DrawIconPage},   {"buttons", DrawButtonPage}, {"shapes", DrawShapePage},
+    {"blends", DrawBlendPage}, {"editor", DrawEditorPage},  {"editor-ends", DrawEditorEndsPage},
+    {"text", DrawTextPage},    {"glyphs", DrawGlyphsPage},  {"blends", DrawBlendPage},
 };
 
 void Write(const ImageBuffer& picture, const std::filesystem::path& file) {
