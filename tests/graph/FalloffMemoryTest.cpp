@@ -15,36 +15,6 @@ constexpr int32_t kMax = std::numeric_limits<int32_t>::max();
 constexpr double kInfinity = std::numeric_limits<double>::infinity();
 constexpr double kNaN = std::numeric_limits<double>::quiet_NaN();
 
-double Pow(double base, double exponent) {
-  return std::pow(base, exponent);
-}
-
-using Values = std::array<double, kRangeCount>;
-using Falloffs = std::array<RangeFalloff, kRangeCount>;
-
-constexpr Falloffs kOfEachKind = {{
-    {kFalloffLinear, 1.0},
-    {kFalloffExponential, 1.0},
-    {kFalloffIntegrate, 1.0},
-}};
-
-TEST(FalloffMemory, ALoudFrameThenSilenceFallsByTheFalloffTime) {
-  // 25 frames a second, at the pace of comps with 30000 ticks a second.
-  FalloffMemory memory;
-  memory =
-      AdvanceFalloffMemory(memory, Values{1.0, 1.0, 1.0}, kOfEachKind, {48000, 1200, 30000}, Pow);
-  EXPECT_EQ(memory.heldValue, (Values{1.0, 1.0, 1.0}));
-  const double factor = std::exp(std::log(0.05) * 0.04);
-  for (int frame = 1; frame <= 30; ++frame) {
-    memory = AdvanceFalloffMemory(memory, Values{0.0, 0.0, 0.0}, kOfEachKind,
-                                  {48000 + 1200 * frame, 1200, 30000}, Pow);
-    EXPECT_NEAR(memory.heldValue[0], std::max(0.0, 1.0 - 0.04 * frame), 1e-12) << frame;
-    EXPECT_NEAR(memory.heldValue[1], std::pow(factor, frame), 1e-12) << frame;
-    EXPECT_EQ(memory.heldValue[2], 0.0) << frame;
-  }
-  EXPECT_EQ(memory.lastRenderTime, 48000 + 1200 * 30);
-}
-
 struct StepCase {
   const char* what = nullptr;
   int32_t lastRenderTime = 0;
@@ -60,6 +30,7 @@ constexpr RangeFalloff kExponential = {kFalloffExponential, 1.0};
 
 constexpr StepCase kSteps[] = {
     {"the next frame", 100, {104, 4, 100}, kLinear, 0.5, 0.0, 0.46},
+    {"exponential", 100, {104, 4, 100}, kExponential, 0.5, 0.0, 0.44353592749657838},
     {"the same frame again", 104, {104, 4, 100}, kLinear, 0.5, 0.0, 0.0},
     {"a frame left out", 100, {108, 4, 100}, kLinear, 0.5, 0.1, 0.1},
     {"a frame back", 100, {96, 4, 100}, kLinear, 0.5, 0.1, 0.1},
@@ -90,9 +61,11 @@ constexpr StepCase kSteps[] = {
 TEST(FalloffMemory, OneFrame) {
   for (const StepCase& c : kSteps) {
     const FalloffMemory memory{c.lastRenderTime, {c.held, c.held, c.held}};
+    const std::array raw = {c.raw, c.raw, c.raw};
+    const std::array falloffs = {c.falloff, c.falloff, c.falloff};
     const FalloffMemory next =
-        AdvanceFalloffMemory(memory, Values{c.raw, c.raw, c.raw},
-                             Falloffs{c.falloff, c.falloff, c.falloff}, c.time, Pow);
+        AdvanceFalloffMemory(memory, raw, falloffs, c.time,
+                             [](double base, double exponent) { return std::pow(base, exponent); });
     EXPECT_EQ(next.lastRenderTime, c.time.currentTime) << c.what;
     for (const double held : next.heldValue) EXPECT_DOUBLE_EQ(held, c.expected) << c.what;
   }

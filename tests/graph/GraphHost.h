@@ -1,13 +1,11 @@
 // A host with one instance of the effect, its sound, and a world to render into.
 #pragma once
 
+#include <algorithm>
 #include <array>
 #include <cstddef>
-#include <cstring>
-#include <stdexcept>
-#include <vector>
 
-#include "GuardedWorld.h"
+#include "Sheet.h"
 #include "gradient/GradientStops.h"
 #include "graph/RenderSpectrumFrame.h"
 #include "shell/SequenceRecord.h"
@@ -26,12 +24,16 @@ struct GraphHost : AnalysisHost {
   std::array<PF_ParamDef*, kParameterCount> pointers{};
   SequenceRecord record;
   FakeHandle handle{&record, sizeof record};
-  GuardedWorld picture;
+  Sheet picture;
   PF_LayerDef output;
   PF_OutData out_data{};
+  PF_ParamDef** givenParams = pointers.data();
+  PF_LayerDef* givenOutput = &output;
   PF_Err fillError = PF_Err_NONE;
 
-  explicit GraphHost(WorldShape shape) : picture(shape, true, 1), output(picture.AsOutput()) {
+  // A world of width x height pixels in the middle of a picture, three pixels from its edges.
+  GraphHost(int32_t width, int32_t height)
+      : picture(width + 6, height + 6), output(picture.Part(3, 3, width, height)) {
     for (size_t i = 0; i < pointers.size(); ++i) pointers[i] = &params.records[i];
     for (const int32_t element :
          {kLogarithmicScale, kShowSpectrum, kShowSelectionRanges, kShowOutput, kShowColormap}) {
@@ -60,20 +62,23 @@ struct GraphHost : AnalysisHost {
       return reinterpret_cast<FakeHandle*>(sized)->size;
     };
     in_data.utils->fill = [](PF_ProgPtr ref, const PF_Pixel* color, const PF_Rect* rect,
-                             PF_EffectWorld* world) {
+                             PF_EffectWorld* /*world*/) {
       auto& host = static_cast<GraphHost&>(Of(ref));
       if (color != nullptr || rect != nullptr) return PF_Err{PF_Err_BAD_CALLBACK_PARAM};
-      if (host.fillError != PF_Err_NONE) return host.fillError;
-      for (A_long y = 0; y < world->height; ++y) {
-        std::memset(host.picture.At(0, y), 0, 4 * static_cast<size_t>(world->width));
-      }
-      return PF_Err{PF_Err_NONE};
+      if (host.fillError == PF_Err_NONE) host.FillWorld(PF_Pixel{});
+      return host.fillError;
     };
+  }
+
+  void FillWorld(PF_Pixel color) {
+    for (int32_t y = 0; y < output.height; ++y) {
+      std::fill_n(&picture.At(3, 3 + y), output.width, color);
+    }
   }
 
   PF_Err Render(A_long time) {
     in_data.current_time = time;
-    const PluginHost_AE_Impl facade(&in_data, &out_data, pointers.data(), &output);
+    const PluginHost_AE_Impl facade(&in_data, &out_data, givenParams, givenOutput);
     return RenderSpectrumFrame(facade);
   }
 
@@ -83,10 +88,10 @@ struct GraphHost : AnalysisHost {
     const auto place = [](int32_t share, int32_t size) { return share * size / 10 * kFixedOne; };
     params.At(range, kRangeActive).bd.value = 1;
     params.At(range, kRangeType).pd.value = kTypeAverage + range;
-    params.At(range, kRangeCorner1).td.x_value = place(1 + 2 * range, picture.shape.width);
-    params.At(range, kRangeCorner1).td.y_value = place(5, picture.shape.height);
-    params.At(range, kRangeCorner2).td.x_value = place(3 + 2 * range, picture.shape.width);
-    params.At(range, kRangeCorner2).td.y_value = place(9, picture.shape.height);
+    params.At(range, kRangeCorner1).td.x_value = place(1 + 2 * range, output.width);
+    params.At(range, kRangeCorner1).td.y_value = place(5, output.height);
+    params.At(range, kRangeCorner2).td.x_value = place(3 + 2 * range, output.width);
+    params.At(range, kRangeCorner2).td.y_value = place(9, output.height);
     params.At(range, kRangeFalloff).pd.value = kFalloffInstant + range;
     params.At(range, kRangeFalloffTime).fd.value = kFixedOne;
   }
