@@ -3,7 +3,6 @@
 #include "analysis/BandLevels.h"
 
 #include <limits>
-#include <numbers>
 #include <stdexcept>
 
 #include "AnalysisHost.h"
@@ -25,25 +24,14 @@ BandArray LevelsOf(const AnalysisHost& host, const TestParameters& params,
   return levels;
 }
 
-TEST(BandLevels, ASineStandsInItsOwnBandAndFallsOffToItsNeighbours) {
-  AnalysisHost host;
-  for (int i = 0; i < 6615; ++i) {
-    const double value = 32767.0 * std::sin(2.0 * std::numbers::pi * 509.66 * i / 44100.0);
-    host.samples.insert(host.samples.end(), 2, static_cast<int16_t>(std::lround(value)));
-  }
-  const BandArray loud = LevelsOf(host, TestParameters());
-  constexpr double kLoud[] = {0.527, 1, 1, 1, 0.521};  // bands 13 to 17
-  for (size_t i = 0; i < 5; ++i) EXPECT_NEAR(loud[13 + i], kLoud[i], 0.0005) << i;
-}
-
 // The host's maths as polynomials, which give the same bits everywhere. The levels were worked out
 // with them by a program in another language.
 TEST(BandLevels, EveryStepIsRoundedByItselfInItsOrder) {
   constexpr std::pair<size_t, double> kPinned[] = {
-      {0, 0x1.32efde269ddf7p-12}, {2, 0x1.d39b1e5e2c039p-11}, {9, 0x1.7a23f39bf9b95p-8},
-      {10, 0x1.6a7e5a4460537p-8}, {12, 0x1.a2cb6b8526261p-9}, {15, 0x1.53a1823dfd6a4p-8},
-      {20, 0x1.3edac44cdb972p-7}, {22, 0x1.dff8a1324523bp-8}, {29, 0x1.1ff20551c0e12p-6},
-      {30, 0x1.44dd755a89a4bp-5}, {31, 0x1.f55fdfc3968a0p-5}};
+      {0, 0x1.32efde269ddf7p-12}, {1, 0x1.7cc2c8f0df67p-12},  {2, 0x1.d39b1e5e2c039p-11},
+      {9, 0x1.7a23f39bf9b95p-8},  {10, 0x1.6a7e5a4460537p-8}, {12, 0x1.a2cb6b8526261p-9},
+      {15, 0x1.53a1823dfd6a4p-8}, {20, 0x1.3edac44cdb972p-7}, {22, 0x1.dff8a1324523bp-8},
+      {29, 0x1.1ff20551c0e12p-6}, {30, 0x1.44dd755a89a4bp-5}, {31, 0x1.f55fdfc3968a0p-5}};
   AnalysisHost host;
   host.utils.ansi.sin = [](double x) { return x * (1.0 - x * x * 0.16); };
   host.utils.ansi.log = [](double x) { return x - 1.0; };
@@ -55,17 +43,6 @@ TEST(BandLevels, EveryStepIsRoundedByItselfInItsOrder) {
   for (int32_t i = 0; i < 6; ++i) params.At(kScale + i).fd.value = kGains[i];
   const BandArray levels = LevelsOf(host, params);
   for (const auto& [band, level] : kPinned) EXPECT_EQ(levels[band], level) << "band " << band;
-}
-
-TEST(BandLevels, SubBaseSilencesTwoBandsHalvesTheNextAndLeavesTheOthers) {
-  AnalysisHost host;
-  host.samples = MakeNoise(6615, 6);
-  TestParameters params;
-  BandArray expected = LevelsOf(host, params);
-  expected[0] = expected[1] = 0.0;
-  expected[2] *= 0.5;
-  params.At(kSubBase).fd.value = 0;
-  EXPECT_EQ(LevelsOf(host, params), expected);
 }
 
 TEST(BandLevels, TheMaskSilencesItsBandsAndLeavesTheOthersToTheBit) {
@@ -81,21 +58,6 @@ TEST(BandLevels, TheMaskSilencesItsBandsAndLeavesTheOthersToTheBit) {
       if (wanted) expected[band] = whole[band];
     }
     EXPECT_EQ(LevelsOf(host, TestParameters(), mask), expected) << pattern;
-  }
-}
-
-TEST(BandLevels, DoublingTheSoundNeverLowersALevelAndACallLeavesNothingBehind) {
-  AnalysisHost host;
-  host.samples = MakeNoise(1000, 14);
-  BandArray before{};
-  for (int doubled = 0; doubled < 14; ++doubled) {
-    const BandArray levels = LevelsOf(host, TestParameters());
-    EXPECT_EQ(LevelsOf(host, TestParameters()), levels);
-    for (size_t band = 0; band < levels.size(); ++band) {
-      EXPECT_TRUE(levels[band] >= before[band] && levels[band] <= 1.0) << band << ": " << doubled;
-    }
-    before = levels;
-    for (int16_t& sample : host.samples) sample = static_cast<int16_t>(sample * 2);
   }
 }
 

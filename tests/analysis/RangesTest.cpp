@@ -123,15 +123,4 @@ TEST(RangeEvaluation, EachTypeReducesItsBandsInItsWay) {
   }
 }
 
-TEST(RangeEvaluation, WithoutAGeometryItTakesThatOfTheFrame) {
-  TestParameters params;  // with its corners at 0, 0: band 0, triggered at the top
-  params.At(0, kRangeActive).bd.value = 1;
-  BandArray levels{1.0};
-  std::array<double, kRangeCount> values{};
-  EvaluateRanges(nullptr, params, levels, values, 1920, 1080, nullptr);
-  EXPECT_EQ(values[0], 1.0);
-  EvaluateRanges(nullptr, params, levels, values, 1, 1, nullptr);
-  EXPECT_EQ(values[0], 0.0) << "a frame too small for a graph";
-}
-
 }  // namespace
