@@ -15,10 +15,8 @@ constexpr int kHeight = 400;
 
 const std::vector<Page> kPages = {
     {"icons", DrawIconPage},   {"buttons", DrawButtonPage}, {"shapes", DrawShapePage},
-    {"blends", DrawBlendPage}, {"text", DrawTextPage},      {"glyphs", DrawGlyphsPage},
-    {"icons", DrawIconPage},   {"buttons", DrawButtonPage}, {"shapes", DrawShapePage},
     {"blends", DrawBlendPage}, {"editor", DrawEditorPage},  {"editor-ends", DrawEditorEndsPage},
-    {"text", DrawTextPage},    {"glyphs", DrawGlyphsPage},  {"blends", DrawBlendPage},
+    {"text", DrawTextPage},    {"glyphs", DrawGlyphsPage},
 };
 
 void Write(const ImageBuffer& picture, const std::filesystem::path& file) {
