@@ -43,6 +43,8 @@ const BadScript kBadScripts[] = {
     {"pick 1 2 3 4", "\"4\" is more than \"pick\" takes"},
     {"instance 0", "N is a whole number from 1 to 64"},
     {"snapshot s.gif", "ends in .png, not \"s.gif\""},
+    {"frame f.gif 3", "ends in .png, not \"f.gif\""},
+    {"frame f.png 1.5", "N is a whole number from -2147483647 to 2147483647, not \"1.5\""},
     {"draw\nsnapshot none/s.png", "the folder none does not exist"},
     {std::string("a\0\x1b"
                  "b",
@@ -86,6 +88,18 @@ TEST_F(PanelRun, ShowsEachStateOfTheRowAndWhatASnapshotSaw) {
   EXPECT_NE(Picture("", "--zoom 2 --record-calls c.txt"), normal);
   EXPECT_EQ(Read(folder.Path() / "c.txt").find("SetAntiAliasPolicy numbers 2\nPushStateStack\n"),
             0U);
+}
+
+TEST_F(PanelRun, AFrameIsWhatTheHostShowsThen) {
+  folder.Write("f.txt", "frame a.png 29\nframe b b.png\nclick 156 79\nframe c.png 29");
+  EXPECT_EQ(Run({"panel", "a.wav", "--events", "f.txt", "--out", "o.png"}).status, 0);
+  const auto frame = [this](const char* number) {
+    EXPECT_EQ(Run({"render", "a.wav", "--frames", number, "--out", "r.png"}).status, 0);
+    return Read(folder.Path() / "r.png");
+  };
+  EXPECT_EQ(Read(folder.Path() / "a.png"), frame("29"));
+  EXPECT_EQ(Read(folder.Path() / "b b.png"), frame("loudest"));
+  EXPECT_NE(Read(folder.Path() / "c.png"), frame("29")) << "the map was flipped";
 }
 
 }  // namespace

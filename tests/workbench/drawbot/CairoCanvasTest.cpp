@@ -127,6 +127,14 @@ TEST(CairoCanvas, ShrinksAnImageOfTwiceTheSizeToTheMeanOfItsPixels) {
   EXPECT_NEAR(canvas.Light(), 60 / 255.0, 0.01);
 }
 
+TEST(CairoCanvas, CopiesThePixelsOfAnImageEnlargedByAWholeNumber) {
+  BlackCanvas canvas(4);
+  canvas.state.matrix = {0.5, 0.0, 0.0, 0.0, 0.5, 0.0};
+  canvas.canvas->PlaceImage(canvas.state, {2, 1, {0xFFFFFFFFU, 0xFF000000U}}, {8, 84}, 1.0F);
+  EXPECT_EQ(canvas.At(17, 9).green, 255);
+  EXPECT_EQ(canvas.At(18, 9).green, 0);
+}
+
 TEST(CairoCanvas, LetsNoGroundInAtTheEdgesOfAnImageEnlarged) {
   BlackCanvas canvas;
   canvas.state.matrix = {4, 0, 0, 0, 4, 0};
