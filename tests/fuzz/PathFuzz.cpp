@@ -5,7 +5,6 @@
 #include <cstddef>
 #include <cstdint>
 #include <cstdlib>
-#include <cstring>
 #include <optional>
 
 #include "drawing/ImageBuffer.h"
@@ -13,30 +12,9 @@
 #include "drawing/Rasterizer.h"
 #include "drawing/SharedPainter.h"
 #include "engine/ExceptionInfo.h"
+#include "tests/fuzz/Input.h"
 
 namespace {
-
-// Reads values off the input; past its end they are 0.
-class Input {
- public:
-  Input(const uint8_t* data, size_t size) : next(data), left(size) {}
-
-  template <typename Value>
-  Value Take() {
-    Value value = {};
-    const size_t count = std::min(sizeof(value), left);
-    if (count > 0) std::memcpy(&value, next, count);
-    next += count;
-    left -= count;
-    return value;
-  }
-
-  bool IsEmpty() const { return left == 0; }
-
- private:
-  const uint8_t* next;
-  size_t left;
-};
 
 // Any double at all, or a place in or near the picture.
 double TakeCoordinate(Input& input) {
