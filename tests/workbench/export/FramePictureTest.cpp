@@ -1,11 +1,9 @@
-// Catches channels that change places or values on their way into a PNG, frames that get each
-// other's names, and grounds that shine through where they should not.
+// Catches a PNG of nothing, frames that get each other's names, and grounds that shine through
+// where they should not.
 #include <gtest/gtest.h>
-#include <png.h>
 
 #include <cmath>
-#include <cstring>
-#include <random>
+#include <vector>
 
 #include "workbench/Failure.h"
 #include "workbench/export/FrameAsPng.h"
@@ -28,37 +26,6 @@ struct Picture {
   std::vector<PF_Pixel8> pixels;
   FramePixels frame;
 };
-
-TEST(FrameAsPng, KeepsEveryByteOfEveryChannel) {
-  std::mt19937 random(3);
-  for (const auto& [width, height] : {std::pair{1, 1}, {256, 3}, {7, 300}}) {
-    Picture picture(width, height);
-    for (PF_Pixel8& pixel : picture.pixels) {
-      const auto bits = static_cast<uint32_t>(random());
-      std::memcpy(&pixel, &bits, sizeof pixel);
-    }
-    for (int x = 0; x < width; ++x) picture.At(x, 0).alpha = static_cast<A_u_char>(x);
-    const std::string png = FrameAsPng(picture.frame);
-    ASSERT_GT(png.size(), 26U);
-    EXPECT_EQ(png.substr(24, 2), std::string("\x08\x06")) << "bits of a channel, and RGBA";
-
-    png_image image{};
-    image.version = PNG_IMAGE_VERSION;
-    ASSERT_NE(png_image_begin_read_from_memory(&image, png.data(), png.size()), 0);
-    ASSERT_EQ(image.width * image.height, static_cast<png_uint_32>(width * height));
-    image.format = PNG_FORMAT_RGBA;
-    std::vector<uint8_t> read(PNG_IMAGE_SIZE(image));
-    ASSERT_NE(png_image_finish_read(&image, nullptr, read.data(), 0, nullptr), 0);
-    for (int32_t y = 0; y < height; ++y) {
-      for (int32_t x = 0; x < width; ++x) {
-        const PF_Pixel8& pixel = picture.At(x, y);
-        const uint8_t rgba[] = {pixel.red, pixel.green, pixel.blue, pixel.alpha};
-        ASSERT_EQ(std::memcmp(&read[static_cast<size_t>(y * width + x) * 4], rgba, 4), 0)
-            << x << ',' << y << " of " << width << " x " << height;
-      }
-    }
-  }
-}
 
 TEST(FrameAsPng, RefusesAFrameWithoutPixels) {
   const Picture picture(1, 1);

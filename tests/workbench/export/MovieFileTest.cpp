@@ -3,12 +3,12 @@
 
 #include <gtest/gtest.h>
 #include <sys/resource.h>
-#include <unistd.h>
 
 #include <csignal>
 #include <cstring>
 #include <random>
 
+#include "tests/workbench/audio/TemporaryFolder.h"
 #include "workbench/Failure.h"
 
 namespace {
@@ -54,13 +54,8 @@ Movie Decoded(const fs::path& path) {
 
 class MovieFileTest : public testing::Test {
  protected:
-  void SetUp() override { fs::create_directories(folder); }
-  void TearDown() override { fs::remove_all(folder); }
-
-  bool FolderIsEmpty() const { return fs::is_empty(folder); }
-
-  const fs::path folder = fs::temp_directory_path() / ("delvior-movie-" + std::to_string(getpid()));
-  const fs::path path = folder / "a.mov";
+  const TemporaryFolder folder;
+  const fs::path path = folder.Path() / "a.mov";
 };
 
 // A frame differs from the one before in a few runs of pixels, as those of an analyser do.
@@ -117,7 +112,7 @@ TEST_F(MovieFileTest, DecodesToTheSamePixelsFramesAndRate) {
           << "frame " << i << " of " << c.width << " x " << c.height;
     }
   }
-  EXPECT_EQ(std::distance(fs::directory_iterator(folder), {}), 1);
+  EXPECT_EQ(std::distance(fs::directory_iterator(folder.Path()), {}), 1);
 }
 
 TEST_F(MovieFileTest, LeavesNothingWhenItIsNotPublishedOrDoesNotFit) {
@@ -129,7 +124,7 @@ TEST_F(MovieFileTest, LeavesNothingWhenItIsNotPublishedOrDoesNotFit) {
     MovieFile file(path, 100, 10, 30, 1);
     addAll(file);
   }
-  EXPECT_TRUE(FolderIsEmpty());
+  EXPECT_TRUE(fs::is_empty(folder.Path()));
 
   rlimit before{};
   getrlimit(RLIMIT_FSIZE, &before);
@@ -148,7 +143,7 @@ TEST_F(MovieFileTest, LeavesNothingWhenItIsNotPublishedOrDoesNotFit) {
           << message;
     }
     setrlimit(RLIMIT_FSIZE, &before);
-    EXPECT_TRUE(FolderIsEmpty()) << limit;
+    EXPECT_TRUE(fs::is_empty(folder.Path())) << limit;
   }
   std::signal(SIGXFSZ, handler);
 }

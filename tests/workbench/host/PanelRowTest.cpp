@@ -15,8 +15,8 @@ using Limits = std::numeric_limits<A_long>;
 
 class EventRow : public testing::Test {
  protected:
-  PanelRow Row(const PF_UnionableRect& frame = {0, 40, 300, 55}) {
-    return {session.Host(), instance, 1, frame, [](const CommandResult& result) {
+  PanelRow Row() {
+    return {session.Host(), instance, 1, {0, 40, 300, 55}, [](const CommandResult& result) {
               EXPECT_TRUE(result.broken.empty()) << result.broken.front();
             }};
   }
@@ -79,18 +79,6 @@ TEST_F(EventRow, TellsTheCursorAndAnswersColorPickersInOrder) {
   for (int i = 0; i < 2; ++i) {
     row.Click({0, 0}, kPickColor);
     EXPECT_EQ(row.lastEvent.u.do_click.continue_refcon[1], -PF_Interrupt_CANCEL);
-  }
-}
-
-TEST_F(EventRow, LivesInAFrameOfAnySize) {
-  for (const PF_UnionableRect& frame :
-       {PF_UnionableRect{0, 0, 0, 0}, PF_UnionableRect{5, 5, 1, 1},
-        PF_UnionableRect{Limits::min(), Limits::min(), Limits::max(), Limits::max()}}) {
-    PanelRow row = Row(frame);
-    row.Click({Limits::min(), Limits::max()}, kInvalidate | kUpdateNow | kAskForDrags);
-    row.Release({Limits::max(), Limits::min()});
-    row.Draw();
-    EXPECT_FALSE(row.lastCalls.empty());
   }
 }
 
