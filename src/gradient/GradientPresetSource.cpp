@@ -8,6 +8,7 @@
 #include "gradient/GradientRamp.h"
 #include "gradient/GradientStops.h"
 #include "gradient/RampColor.h"
+#include "gradient/RampColumn.h"
 #include "gradient/RampIndex.h"
 #include "platform/Truncate.h"
 #include "toolkit/RectAlgebra.h"
@@ -53,7 +54,7 @@ Rect PictureIn(const Rect& row) {
           Narrowed(int64_t{row.bottom} + kPictureInset.bottom)};
 }
 
-void StrokeRect(ImageBuffer& buffer, const Rect& rect, ColorBGRA color, const Rect& clip) {
+void DrawFrame(ImageBuffer& buffer, const Rect& rect, ColorBGRA color, const Rect& clip) {
   SharedPath().SetRoundRect(rect, 0.0, true, true, true, true);
   SharedRasterizer().DrawPath(SharedPath(), buffer, color, kOpacity, false, &clip, nullptr,
                               kLineWidth);
@@ -93,11 +94,11 @@ void GradientPresetSource::PaintPreset(int32_t index, ImageBuffer& buffer, const
   for (int32_t column = 0; column < width; ++column) {
     const int32_t entry = HoldToRamp(Truncate<int32_t>(place));
     const int32_t left = picture.left + column;
-    StrokeRect(
+    FillColumn(
         buffer, {left, picture.top, left + 1, picture.bottom},
         PixelOf(preset.colorMapRed[entry], preset.colorMapGreen[entry], preset.colorMapBlue[entry]),
-        clip);
+        kOpacity, clip);
     place += step;
   }
-  StrokeRect(buffer, picture, highlighted ? ThemeColors::White : kFrame, clip);
+  DrawFrame(buffer, picture, highlighted ? ThemeColors::White : kFrame, clip);
 }

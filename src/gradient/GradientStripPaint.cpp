@@ -3,6 +3,7 @@
 #include "gradient/GradientPanel.h"
 #include "gradient/GradientStrip.h"
 #include "gradient/RampColor.h"
+#include "gradient/RampColumn.h"
 #include "gradient/RampIndex.h"
 #include "toolkit/RectAlgebra.h"
 #include "toolkit/ThemeColors.h"
@@ -23,7 +24,6 @@ constexpr int32_t kOpacity = 255;
 constexpr int32_t kDisabledOpacity = 30;
 constexpr int32_t kOutlineOpacity = 256;
 constexpr int32_t kDisabledOutlineOpacity = 150;
-constexpr int32_t kWholeCoverage = 255;
 
 void Draw(ImageBuffer& buffer, ColorBGRA color, int32_t opacity, const Rect& clip,
           double lineWidth) {
@@ -61,17 +61,13 @@ void GradientStrip::Paint(const Rect& rect, ImageBuffer& buffer, const Point& po
        kLineWidth);
 }
 
-// A column is what a line upward of that width covers: all of its pixels, at the scales of screens.
-// A fill costs a hundredth of the line and gives the same bits at the opacity that is left of it
-// where the coverage is whole.
 void GradientStrip::PaintRamp(const GradientView& view, const PaintArea& area, int32_t shownOpacity,
                               ImageBuffer& buffer) const {
-  const int32_t columnOpacity = kWholeCoverage * shownOpacity / 256;
   for (int32_t i = 0; i < GradientRampSize; ++i) {
     const Rect column = {kRampLeft + i, kRampInset, kRampLeft + i + 1, barHeight - kRampInset};
-    buffer.FillRect(MovedBy(column, area.bounds.left, area.bounds.top),
-                    PixelOf(view.colorMapRed[i], view.colorMapGreen[i], view.colorMapBlue[i]),
-                    columnOpacity, &area.clip);
+    FillColumn(buffer, MovedBy(column, area.bounds.left, area.bounds.top),
+               PixelOf(view.colorMapRed[i], view.colorMapGreen[i], view.colorMapBlue[i]),
+               shownOpacity, area.clip);
   }
 }
 

@@ -1,0 +1,105 @@
+// Catches a strip or a menu that shows other colours than the map has, or shows them elsewhere.
+#include <gtest/gtest.h>
+
+#include <limits>
+
+#include "drawing/SharedPainter.h"
+#include "gradient/RampColor.h"
+#include "tests/gradient/Editor.h"
+
+namespace {
+
+// Logical pixels of a picture at scale 2.
+ColorBGRA At(const ImageBuffer& picture, int32_t x, int32_t y) {
+  return picture.Row(2 * y)[2 * x];
+}
+
+Rect MovedToStrip(const Rect& rect) {
+  return {rect.left + kStripOrigin.x, rect.top + kStripOrigin.y, rect.right + kStripOrigin.x,
+          rect.bottom + kStripOrigin.y};
+}
+
+// The strip drawn plainly: fills, and a line upward for each entry of the ramp.
+void DrawPlainly(const GradientRecord& map, bool enabled, ImageBuffer& picture) {
+  const int32_t opacity = enabled ? 255 : 30;
+  const Rect strip = MovedToStrip({0, 0, 209, 30});
+  const auto draw = [&](ColorBGRA color, int32_t shown, double lineWidth) {
+    SharedRasterizer().DrawPath(SharedPath(), picture, color, shown, false, &strip, nullptr,
+                                lineWidth);
+  };
+  picture.FillRect(strip, Gray(36), 256, nullptr);
+  picture.FillRect(MovedToStrip({2, 0, 207, 18}), Gray(0), opacity, nullptr);
+  for (int32_t i = 0; i < 201; ++i) {
+    const double x = strip.left + 4.0 + i;
+    SharedPath().Clear();
+    SharedPath().MoveTo({x, strip.top + 16.0});
+    SharedPath().LineTo({x, strip.top + 2.0});
+    SharedPath().ClosePath();
+    draw(PixelOf(map.colorMapRed[i], map.colorMapGreen[i], map.colorMapBlue[i]), opacity, 1.0);
+  }
+  for (int32_t i = 0; i < 50 && map.stopPosition[i] != 255; ++i) {
+    const int32_t x = 4 + std::min<int32_t>(map.stopPosition[i], 200);
+    const Rect box = MovedToStrip({x - 4, 23, x + 4, 31});
+    const PathPoint tip = {box.left + 4.0, box.top - 3.0};
+    SharedPath().SetRoundTriangle(tip, {tip.x - 3, tip.y + 2}, {tip.x + 3, tip.y + 2}, 0.0);
+    draw(Gray(148), opacity, 0);
+    SharedPath().SetRoundRect(box, 0, true, true, true, true);
+    draw(PixelOf(map.stopRed[i], map.stopGreen[i], map.stopBlue[i]), opacity, 0);
+    draw(Gray(59), opacity, 1.0);
+  }
+  SharedPath().SetRoundRect(MovedToStrip({2, 0, 207, 18}), 1.0, true, true, true, true);
+  draw(Gray(59), enabled ? 256 : 150, 1.0);
+}
+
+TEST(GradientLook, TheStripEqualsOneThatIsDrawnLineByLine) {
+  const float infinity = std::numeric_limits<float>::infinity();
+  const std::vector<std::vector<Stop>> maps = {
+      {{0, 1, 0, 0.3F}, {77, 0.1F, 1, 0}, {200, 0, 0.6F, 1}},
+      {{30, -1, 3, -infinity},
+       {31, infinity, 0, std::numeric_limits<float>::quiet_NaN()},
+       {240, 0, 1, 1}},
+      {}};
+  for (const std::vector<Stop>& stops : maps) {
+    for (const bool enabled : {true, false}) {
+      Editor editor({StoredMap(stops)});
+      editor.panel->SetEnabled(enabled);
+      ImageBuffer picture;
+      editor.Paint(picture);
+      ImageBuffer plain;
+      plain.Allocate(612, 260, false);
+      plain.SetScale(2.0F);
+      plain.SetScaleAware(true);
+      DrawPlainly(editor.Map(), enabled, plain);
+      for (int32_t y = 58; y < 118; ++y) {
+        EXPECT_TRUE(std::equal(picture.Row(y) + 26, picture.Row(y) + 444, plain.Row(y) + 26))
+            << stops.size() << ' ' << enabled << " row " << y;
+      }
+    }
+  }
+}
+
+TEST(GradientLook, AMenuRowShowsItsPresetAndIsLitUnderThePointer) {
+  Editor editor({StoredMap(std::vector<Stop>{})});
+  editor.Click(kPresets);
+  editor.Event([](GradientPanel& panel) { panel.MouseOver({265, 54}, {}); });
+  ImageBuffer picture;
+  editor.Paint(picture);
+  const GradientPresetSource source;
+  for (int32_t row = 0; row < 6; ++row) {
+    const GradientView preset = source.GetPreset(row);
+    const int32_t top = 6 + row * 20;
+    for (int32_t column = 1; column < 49; ++column) {
+      const int32_t entry = column * 201 / 50;
+      const ColorBGRA expected = PixelOf(preset.colorMapRed[entry], preset.colorMapGreen[entry],
+                                         preset.colorMapBlue[entry]);
+      // A colour at opacity 255 falls short of it by two at the most.
+      const ColorBGRA shown = At(picture, 242 + column, top + 8);
+      EXPECT_NEAR(shown.red, expected.red, 2) << row << ' ' << column;
+      EXPECT_NEAR(shown.green, expected.green, 2) << row << ' ' << column;
+      EXPECT_NEAR(shown.blue, expected.blue, 2) << row << ' ' << column;
+    }
+    EXPECT_EQ(At(picture, 260, top).red > 200, row == 2) << row;
+  }
+}
+
+}  // namespace

@@ -1,0 +1,151 @@
+// Catches buttons and presets that do the wrong thing to the map, or can't be undone.
+#include "gradient/GradientPanel.h"
+
+#include <gtest/gtest.h>
+
+#include <limits>
+
+#include "gradient/GradientStops.h"
+#include "tests/gradient/Editor.h"
+
+namespace {
+
+const std::vector<Stop> kStops = {{10, 0.25F, 0.5F, 1.0F}, {90, 1.0F, 0.0F, 0.5F}, {90, 0, 1, 0}};
+
+bool Same(const GradientSnapshot& a, const GradientSnapshot& b) {
+  return std::memcmp(&a, &b, sizeof a) == 0;
+}
+
+// The menu's row of a preset, its middle.
+Point RowOf(int32_t preset) {
+  return {265, 14 + preset * 20};
+}
+
+void Choose(Editor& editor, const Point& place) {
+  editor.Click(kPresets);
+  editor.Click(place);
+}
+
+struct EditCase {
+  const char* what;
+  void (*edit)(Editor& editor);
+};
+
+constexpr EditCase kEdits[] = {
+    {"add", [](Editor& e) { e.Play("d 152 5 u"); }},
+    {"drag", [](Editor& e) { e.Play("d 14 5 m 60 9 m 202 40 u"); }},
+    {"drag off", [](Editor& e) { e.Play("d 14 5 m 60 60 u"); }},
+    {"flip", [](Editor& e) { e.Click(kFlip); }},
+    {"randomize", [](Editor& e) { e.Click(kRandomize); }},
+    {"reset", [](Editor& e) { e.Click(kReset); }},
+    {"preset", [](Editor& e) { Choose(e, RowOf(4)); }},
+    {"paste", [](Editor& e) { e.Click(kPaste); }},
+};
+
+TEST(GradientPanel, EveryEditIsOneStepToUndoAndToRedo) {
+  for (const EditCase& c : kEdits) {
+    Editor editor({StoredMap(kStops), StoredMap(std::vector<Stop>{{7, 1, 1, 0}})});
+    editor.instance = 1;
+    editor.Click(kCopy);
+    editor.instance = 0;
+    const GradientSnapshot before = editor.Stops();
+    c.edit(editor);
+    const GradientSnapshot after = editor.Stops();
+    EXPECT_FALSE(Same(before, after)) << c.what;
+    EXPECT_TRUE(editor.RampIsThatOfItsStops()) << c.what;
+    // There is one step of each: a second press finds the button disabled.
+    for (int times = 0; times < 2; ++times) editor.Click(kUndo);
+    EXPECT_TRUE(Same(before, editor.Stops())) << c.what;
+    EXPECT_TRUE(editor.RampIsThatOfItsStops()) << c.what;
+    for (int times = 0; times < 2; ++times) editor.Click(kRedo);
+    EXPECT_TRUE(Same(after, editor.Stops())) << c.what;
+    editor.Click(kUndo);
+    editor.Click(kFlip);
+    editor.calls.clear();
+    editor.Click(kRedo);
+    EXPECT_EQ(editor.calls, "") << c.what;
+  }
+}
+
+TEST(GradientPanel, ButtonsCallInTheirOrderAndDisabledOnesNot) {
+  Editor editor({StoredMap(kStops)});
+  const auto callsOf = [&](const Point& place) {
+    editor.calls.clear();
+    editor.Click(place);
+    return editor.calls;
+  };
+  EXPECT_EQ(callsOf(kPaste) + callsOf(kUndo) + callsOf(kRedo), "");
+  EXPECT_EQ(callsOf(kCopy), "c");
+  EXPECT_EQ(callsOf(kRandomize), "pg");
+  EXPECT_EQ(callsOf(kPaste), "pvg");
+  EXPECT_EQ(callsOf(kUndo), "ug");
+  EXPECT_EQ(callsOf(kRedo), "rg");
+  EXPECT_EQ(callsOf(kReset), "pg");
+  EXPECT_EQ(callsOf(kReset), "");
+  editor.Play("d 102 5 m 103 5 u");
+  EXPECT_EQ(callsOf(kReset), "pg");
+  // A clipboard that was just filled can be used before the next event.
+  editor.global.clipboardFilled = 0;
+  editor.Event([](GradientPanel&) {});
+  const ControlPane& paste = *editor.panel->FindDescendantById(201);
+  EXPECT_FALSE(paste.IsEnabled());
+  editor.Click(kCopy);
+  EXPECT_TRUE(paste.IsEnabled());
+}
+
+TEST(GradientPanel, AChosenPresetIsTheMapAndLeavingTheMenuOnlyPushes) {
+  const std::vector<std::vector<int>> positions = {
+      {0, 50, 100, 150, 200}, {0, 200},  {0, 50, 200},
+      {0, 50, 100, 150, 200}, {50, 150}, {25, 100, 200}};
+  for (int32_t preset = 0; preset < 6; ++preset) {
+    Editor editor({StoredMap(kStops)});
+    Choose(editor, RowOf(preset));
+    const GradientRecord& map = editor.Map();
+    const std::vector<int>& expected = positions[static_cast<size_t>(preset)];
+    for (size_t i = 0; i < 50; ++i) {
+      EXPECT_EQ(map.stopPosition[i], i < expected.size() ? expected[i] : 255) << preset;
+    }
+    EXPECT_TRUE(editor.RampIsThatOfItsStops()) << preset;
+    EXPECT_EQ(editor.calls, "pg") << preset;
+    // Press on a row, release beside the list.
+    editor.Click(kPresets);
+    editor.Press(RowOf(1));
+    const GradientSnapshot before = editor.Stops();
+    editor.Release(kFreePlace);
+    EXPECT_EQ(editor.calls, "pgpg") << preset;
+    EXPECT_TRUE(Same(before, editor.Stops())) << preset;
+    // Neither its own bar nor any place beside the list chooses anything.
+    Choose(editor, kFreePlace);
+    EXPECT_EQ(editor.panel->GetPopup(), nullptr);
+    EXPECT_EQ(editor.calls, "pgpg") << preset;
+  }
+}
+
+// The reset button compares ramp and slots as numbers.
+TEST(GradientPanel, ResetIsOfferedForAnyMapButTheDefault) {
+  StoredMap map(kStops);
+  InitRecord(map.Record());
+  struct Change {
+    const char* what;
+    void (*apply)(GradientRecord& record);
+    bool offered;
+  };
+  const Change changes[] = {
+      {"none", [](GradientRecord&) {}, false},
+      {"-0.0", [](GradientRecord& r) { r.stopBlue[0] = -0.0F; }, false},
+      {"a free slot's colour", [](GradientRecord& r) { r.stopGreen[49] = 0.5F; }, true},
+      {"NaN", [](GradientRecord& r) { r.stopRed[9] = std::numeric_limits<float>::quiet_NaN(); },
+       true},
+      {"the stored ramp", [](GradientRecord& r) { r.colorMapBlue[200] = 0.5F; }, true},
+      {"a position behind the end", [](GradientRecord& r) { r.stopPosition[40] = 3; }, true},
+  };
+  for (const Change& change : changes) {
+    Editor editor({map});
+    change.apply(editor.Map());
+    editor.Event([&](GradientPanel& panel) {
+      EXPECT_EQ(panel.FindDescendantById(300)->IsEnabled(), change.offered) << change.what;
+    });
+  }
+}
+
+}  // namespace
