@@ -17,14 +17,14 @@ class RandomScript {
   RandomScript(uint32_t seed, Editor& edited) : random(seed), editor(edited) {}
 
   void Step() {
-    editor.instance = Pick(20) == 0 ? 1 - editor.instance : editor.instance;
+    if (Pick(20) == 0) editor.SetInstance(1 - editor.instance);
     editor.accepts = Pick(2) == 0;
     const Point place = AnyPlace();
     const int32_t event = Pick(16);
     if (event < 4) editor.Press(place, event == 0);
     if (event >= 4 && event < 12) editor.Drag(place);
     if (event >= 12 && event < 15) editor.Release(place);
-    if (event == 15) editor.Event([&](GradientPanel& panel) { panel.MouseOver(place, {}); });
+    if (event == 15) editor.Over(place);
   }
 
  private:
@@ -32,14 +32,15 @@ class RandomScript {
     return static_cast<int32_t>(random() % static_cast<uint32_t>(count));
   }
   Point AnyPlace() {
-    constexpr Point kButtons[] = {kUndo,  kRedo,      kReset, kPresets, kCopy,
-                                  kPaste, kRandomize, kFlip,  {265, 54}};
+    constexpr Point kButtons[] = {Editor::kUndo,      Editor::kRedo, Editor::kReset,
+                                  Editor::kPresets,   Editor::kCopy, Editor::kPaste,
+                                  Editor::kRandomize, Editor::kFlip, {265, 54}};
     const int32_t kind = Pick(40);
     if (kind == 0) return {static_cast<int32_t>(random()), static_cast<int32_t>(random())};
     if (kind == 1)
       return {std::numeric_limits<int32_t>::min(), std::numeric_limits<int32_t>::max()};
     if (kind < 8) return kButtons[Pick(9)];
-    return {kStripOrigin.x - 10 + Pick(230), kStripOrigin.y - 5 + Pick(55)};
+    return Editor::OnStrip(Pick(230) - 10, Pick(55) - 5);
   }
 
   std::mt19937 random;
@@ -58,7 +59,7 @@ TEST(EditorScript, SortedStopsStaySortedUnderTheirRamp) {
   RandomScript script(1, editor);
   for (int step = 0; step < 20000; ++step) {
     script.Step();
-    const GradientView view(editor.Map());
+    const GradientView view((*editor.map));
     ASSERT_TRUE(std::is_sorted(view.stopPosition, view.stopPosition + 50)) << step;
     ASSERT_TRUE(editor.RampIsThatOfItsStops()) << step;
   }
@@ -77,7 +78,7 @@ TEST(EditorScript, StoredBytesOfAnyKindDoNoHarm) {
     RandomScript script(seed, editor);
     for (int step = 0; step < 500; ++step) script.Step();
     ImageBuffer picture;
-    editor.Paint(picture);
+    editor.PaintAlone(picture);
     EXPECT_TRUE(GuardsAreWhole(editor.maps[0]) && GuardsAreWhole(editor.maps[1])) << seed;
   }
 }
@@ -85,10 +86,11 @@ TEST(EditorScript, StoredBytesOfAnyKindDoNoHarm) {
 // The address sanitizer sees what is touched after its end.
 TEST(EditorScript, ThePanelMayGoInAnyCallback) {
   const auto play = [](Editor& editor) {
-    editor.Click(kCopy);
-    editor.Click(kPaste);
+    editor.Click(Editor::kCopy);
+    editor.Click(Editor::kPaste);
     editor.Play("d 54 5 m 90 5 m 90 60 m 90 5 u D 54 24 u");
-    for (const Point& place : {kUndo, kRedo, kRandomize, kFlip, kReset, kPresets, Point{265, 54}}) {
+    for (const Point& place : {Editor::kUndo, Editor::kRedo, Editor::kRandomize, Editor::kFlip,
+                               Editor::kReset, Editor::kPresets, Point{265, 54}}) {
       editor.Click(place);
     }
   };

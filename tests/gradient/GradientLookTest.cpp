@@ -15,8 +15,8 @@ ColorBGRA At(const ImageBuffer& picture, int32_t x, int32_t y) {
 }
 
 Rect MovedToStrip(const Rect& rect) {
-  return {rect.left + kStripOrigin.x, rect.top + kStripOrigin.y, rect.right + kStripOrigin.x,
-          rect.bottom + kStripOrigin.y};
+  const Point origin = Editor::OnStrip(0, 0);
+  return {rect.left + origin.x, rect.top + origin.y, rect.right + origin.x, rect.bottom + origin.y};
 }
 
 // The strip drawn plainly: fills, and a line upward for each entry of the ramp.
@@ -64,12 +64,12 @@ TEST(GradientLook, TheStripEqualsOneThatIsDrawnLineByLine) {
       Editor editor({StoredMap(stops)});
       editor.panel->SetEnabled(enabled);
       ImageBuffer picture;
-      editor.Paint(picture);
+      editor.PaintAlone(picture);
       ImageBuffer plain;
       plain.Allocate(612, 260, false);
       plain.SetScale(2.0F);
       plain.SetScaleAware(true);
-      DrawPlainly(editor.Map(), enabled, plain);
+      DrawPlainly((*editor.map), enabled, plain);
       for (int32_t y = 58; y < 118; ++y) {
         EXPECT_TRUE(std::equal(picture.Row(y) + 26, picture.Row(y) + 444, plain.Row(y) + 26))
             << stops.size() << ' ' << enabled << " row " << y;
@@ -80,10 +80,10 @@ TEST(GradientLook, TheStripEqualsOneThatIsDrawnLineByLine) {
 
 TEST(GradientLook, AMenuRowShowsItsPresetAndIsLitUnderThePointer) {
   Editor editor({StoredMap(std::vector<Stop>{})});
-  editor.Click(kPresets);
-  editor.Event([](GradientPanel& panel) { panel.MouseOver({265, 54}, {}); });
+  editor.Click(Editor::kPresets);
+  editor.Over(Editor::RowOf(2));
   ImageBuffer picture;
-  editor.Paint(picture);
+  editor.PaintAlone(picture);
   const GradientPresetSource source;
   for (int32_t row = 0; row < 6; ++row) {
     const GradientView preset = source.GetPreset(row);

@@ -16,16 +16,6 @@ bool Same(const GradientSnapshot& a, const GradientSnapshot& b) {
   return std::memcmp(&a, &b, sizeof a) == 0;
 }
 
-// The menu's row of a preset, its middle.
-Point RowOf(int32_t preset) {
-  return {265, 14 + preset * 20};
-}
-
-void Choose(Editor& editor, const Point& place) {
-  editor.Click(kPresets);
-  editor.Click(place);
-}
-
 struct EditCase {
   const char* what;
   void (*edit)(Editor& editor);
@@ -35,34 +25,34 @@ constexpr EditCase kEdits[] = {
     {"add", [](Editor& e) { e.Play("d 152 5 u"); }},
     {"drag", [](Editor& e) { e.Play("d 14 5 m 60 9 m 202 40 u"); }},
     {"drag off", [](Editor& e) { e.Play("d 14 5 m 60 60 u"); }},
-    {"flip", [](Editor& e) { e.Click(kFlip); }},
-    {"randomize", [](Editor& e) { e.Click(kRandomize); }},
-    {"reset", [](Editor& e) { e.Click(kReset); }},
-    {"preset", [](Editor& e) { Choose(e, RowOf(4)); }},
-    {"paste", [](Editor& e) { e.Click(kPaste); }},
+    {"flip", [](Editor& e) { e.Click(Editor::kFlip); }},
+    {"randomize", [](Editor& e) { e.Click(Editor::kRandomize); }},
+    {"reset", [](Editor& e) { e.Click(Editor::kReset); }},
+    {"preset", [](Editor& e) { e.Choose(4); }},
+    {"paste", [](Editor& e) { e.Click(Editor::kPaste); }},
 };
 
 TEST(GradientPanel, EveryEditIsOneStepToUndoAndToRedo) {
   for (const EditCase& c : kEdits) {
     Editor editor({StoredMap(kStops), StoredMap(std::vector<Stop>{{7, 1, 1, 0}})});
-    editor.instance = 1;
-    editor.Click(kCopy);
-    editor.instance = 0;
+    editor.SetInstance(1);
+    editor.Click(Editor::kCopy);
+    editor.SetInstance(0);
     const GradientSnapshot before = editor.Stops();
     c.edit(editor);
     const GradientSnapshot after = editor.Stops();
     EXPECT_FALSE(Same(before, after)) << c.what;
     EXPECT_TRUE(editor.RampIsThatOfItsStops()) << c.what;
     // There is one step of each: a second press finds the button disabled.
-    for (int times = 0; times < 2; ++times) editor.Click(kUndo);
+    for (int times = 0; times < 2; ++times) editor.Click(Editor::kUndo);
     EXPECT_TRUE(Same(before, editor.Stops())) << c.what;
     EXPECT_TRUE(editor.RampIsThatOfItsStops()) << c.what;
-    for (int times = 0; times < 2; ++times) editor.Click(kRedo);
+    for (int times = 0; times < 2; ++times) editor.Click(Editor::kRedo);
     EXPECT_TRUE(Same(after, editor.Stops())) << c.what;
-    editor.Click(kUndo);
-    editor.Click(kFlip);
+    editor.Click(Editor::kUndo);
+    editor.Click(Editor::kFlip);
     editor.calls.clear();
-    editor.Click(kRedo);
+    editor.Click(Editor::kRedo);
     EXPECT_EQ(editor.calls, "") << c.what;
   }
 }
@@ -74,22 +64,22 @@ TEST(GradientPanel, ButtonsCallInTheirOrderAndDisabledOnesNot) {
     editor.Click(place);
     return editor.calls;
   };
-  EXPECT_EQ(callsOf(kPaste) + callsOf(kUndo) + callsOf(kRedo), "");
-  EXPECT_EQ(callsOf(kCopy), "c");
-  EXPECT_EQ(callsOf(kRandomize), "pg");
-  EXPECT_EQ(callsOf(kPaste), "pvg");
-  EXPECT_EQ(callsOf(kUndo), "ug");
-  EXPECT_EQ(callsOf(kRedo), "rg");
-  EXPECT_EQ(callsOf(kReset), "pg");
-  EXPECT_EQ(callsOf(kReset), "");
+  EXPECT_EQ(callsOf(Editor::kPaste) + callsOf(Editor::kUndo) + callsOf(Editor::kRedo), "");
+  EXPECT_EQ(callsOf(Editor::kCopy), "c");
+  EXPECT_EQ(callsOf(Editor::kRandomize), "pg");
+  EXPECT_EQ(callsOf(Editor::kPaste), "pvg");
+  EXPECT_EQ(callsOf(Editor::kUndo), "ug");
+  EXPECT_EQ(callsOf(Editor::kRedo), "rg");
+  EXPECT_EQ(callsOf(Editor::kReset), "pg");
+  EXPECT_EQ(callsOf(Editor::kReset), "");
   editor.Play("d 102 5 m 103 5 u");
-  EXPECT_EQ(callsOf(kReset), "pg");
+  EXPECT_EQ(callsOf(Editor::kReset), "pg");
   // A clipboard that was just filled can be used before the next event.
   editor.global.clipboardFilled = 0;
   editor.Event([](GradientPanel&) {});
   const ControlPane& paste = *editor.panel->FindDescendantById(201);
   EXPECT_FALSE(paste.IsEnabled());
-  editor.Click(kCopy);
+  editor.Click(Editor::kCopy);
   EXPECT_TRUE(paste.IsEnabled());
 }
 
@@ -99,8 +89,8 @@ TEST(GradientPanel, AChosenPresetIsTheMapAndLeavingTheMenuOnlyPushes) {
       {0, 50, 100, 150, 200}, {50, 150}, {25, 100, 200}};
   for (int32_t preset = 0; preset < 6; ++preset) {
     Editor editor({StoredMap(kStops)});
-    Choose(editor, RowOf(preset));
-    const GradientRecord& map = editor.Map();
+    editor.Choose(preset);
+    const GradientRecord& map = (*editor.map);
     const std::vector<int>& expected = positions[static_cast<size_t>(preset)];
     for (size_t i = 0; i < 50; ++i) {
       EXPECT_EQ(map.stopPosition[i], i < expected.size() ? expected[i] : 255) << preset;
@@ -108,14 +98,15 @@ TEST(GradientPanel, AChosenPresetIsTheMapAndLeavingTheMenuOnlyPushes) {
     EXPECT_TRUE(editor.RampIsThatOfItsStops()) << preset;
     EXPECT_EQ(editor.calls, "pg") << preset;
     // Press on a row, release beside the list.
-    editor.Click(kPresets);
-    editor.Press(RowOf(1));
+    editor.Click(Editor::kPresets);
+    editor.Press(Editor::RowOf(1));
     const GradientSnapshot before = editor.Stops();
-    editor.Release(kFreePlace);
+    editor.Release(Editor::kFreePlace);
     EXPECT_EQ(editor.calls, "pgpg") << preset;
     EXPECT_TRUE(Same(before, editor.Stops())) << preset;
     // Neither its own bar nor any place beside the list chooses anything.
-    Choose(editor, kFreePlace);
+    editor.Click(Editor::kPresets);
+    editor.Click(Editor::kFreePlace);
     EXPECT_EQ(editor.panel->GetPopup(), nullptr);
     EXPECT_EQ(editor.calls, "pgpg") << preset;
   }
@@ -141,7 +132,7 @@ TEST(GradientPanel, ResetIsOfferedForAnyMapButTheDefault) {
   };
   for (const Change& change : changes) {
     Editor editor({map});
-    change.apply(editor.Map());
+    change.apply((*editor.map));
     editor.Event([&](GradientPanel& panel) {
       EXPECT_EQ(panel.FindDescendantById(300)->IsEnabled(), change.offered) << change.what;
     });

@@ -72,7 +72,7 @@ TEST(GradientStrip, PressesAndDragsEditTheStops) {
     Editor editor({MapOf(c.before)});
     editor.pickedColor = {RedOf('p'), 0.5F, RedOf('p') / 2};
     editor.Play(c.script);
-    std::string after = TextOf(editor.Map());
+    std::string after = TextOf(*editor.map);
     EXPECT_EQ(after, c.after) << c.what;
     EXPECT_TRUE(editor.RampIsThatOfItsStops()) << c.what;
     EXPECT_EQ(editor.calls.substr(0, 2), "np") << c.what;
@@ -81,10 +81,10 @@ TEST(GradientStrip, PressesAndDragsEditTheStops) {
 
 TEST(GradientStrip, ANewStopHasTheColourThatTheRampHadThere) {
   Editor editor({MapOf("0a 200y")});
-  editor.Press(kFreePlace);
-  const float before = editor.Map().colorMapRed[77];
+  editor.Press(Editor::kFreePlace);
+  const float before = editor.map->colorMapRed[77];
   editor.Play("d 79 5");
-  EXPECT_EQ(editor.Map().stopRed[1], before);
+  EXPECT_EQ(editor.map->stopRed[1], before);
 }
 
 TEST(GradientStrip, AFullTableTakesNoStopAndNothingIsDragged) {
@@ -93,10 +93,10 @@ TEST(GradientStrip, AFullTableTakesNoStopAndNothingIsDragged) {
   Editor editor({MapOf(full)});
   const StoredMap before = editor.maps[0];
   editor.Play("d 150 5 m 20 5 m 20 99 m 20 5 u");
-  editor.Map().stopPosition[49] = 255;
+  editor.map->stopPosition[49] = 255;
   editor.Play("m 20 5");
-  editor.Map().stopPosition[49] = 49;
-  EXPECT_EQ(TextOf(editor.Map()), TextOf(StoredMap(before).Record()));
+  editor.map->stopPosition[49] = 49;
+  EXPECT_EQ(TextOf(*editor.map), TextOf(StoredMap(before).Record()));
 }
 
 TEST(GradientStrip, AnyPickedNumbersAreKeptAndACancelledPickChangesNothing) {
@@ -106,12 +106,12 @@ TEST(GradientStrip, AnyPickedNumbersAreKeptAndACancelledPickChangesNothing) {
     editor.pickedColor = {number, 0.5F, -number};
     editor.accepts = false;
     editor.Play("D 54 24 u");
-    EXPECT_EQ(TextOf(editor.Map()), "0a 50b") << number;
+    EXPECT_EQ(TextOf(*editor.map), "0a 50b") << number;
     editor.accepts = true;
     editor.Play("D 54 24 u");
-    EXPECT_EQ(std::memcmp(&editor.Map().stopRed[1], &number, 4), 0) << number;
+    EXPECT_EQ(std::memcmp(&editor.map->stopRed[1], &number, 4), 0) << number;
     ImageBuffer picture;
-    editor.Paint(picture);
+    editor.PaintAlone(picture);
   }
 }
 
@@ -121,9 +121,9 @@ TEST(GradientStrip, APickedColourGoesToTheMapThatWasClicked) {
   editor.pickedColor = {RedOf('p'), 0.5F, RedOf('p') / 2};
   editor.onCall = [&](char call) {
     if (call != 'k') return;
-    editor.instance = 1;
-    editor.Drag(kFreePlace);
-    editor.instance = 0;
+    editor.SetInstance(1);
+    editor.Drag(Editor::kFreePlace);
+    editor.SetInstance(0);
   };
   editor.Play("D 54 24 u");
   EXPECT_EQ(TextOf(editor.maps[0].Record()) + TextOf(editor.maps[1].Record()), "50p50c");
