@@ -3,7 +3,6 @@
 
 #include <cstdint>
 
-#include "drawing/Labeler.h"
 #include "gradient/GradientStops.h"
 #include "tools/specimens/DemoEditor.h"
 
@@ -17,7 +16,6 @@ void DragStep(benchmark::State& state, bool repaints) {
   ClearStops(view);
   for (int32_t i = 0; i < state.range(0); ++i) InsertStop(view, i * 4, 0.2F, 0.4F, 0.6F);
   DemoEditor editor(map);
-  SetScreenScale(2.0F);
   editor.Press(DemoEditor::OnStrip(4, 24));
   int32_t x = 0;
   while (state.KeepRunning()) {

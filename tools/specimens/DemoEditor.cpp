@@ -57,14 +57,15 @@ GradientCallbacks DemoEditor::Callbacks(Armed& armed) {
 }
 
 DemoEditor::DemoEditor(GradientRecord& firstMap) : map(&firstMap) {
-  NativeImageBuffer& screen = MakeScreenBuffer(kScreenSide, kScreenSide);
-  screen.SetScale(2.0F);
-  screen.SetScaleAware(true);
+  MakeScreenBuffer(kScreenSide, kScreenSide);
+  ScaleScreenBuffer(2.0F);
   panel = std::make_unique<GradientPanel>(kOwner, 306, 130, GradientPanel::Options{});
   UseClock(this);
 }
 
 DemoEditor::~DemoEditor() {
+  panel.reset();
+  DestroyScreenBuffer();
   DropSnapshots(Slots());
   UseClock(nullptr);
 }

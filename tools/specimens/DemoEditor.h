@@ -17,7 +17,7 @@
 #include "toolkit/Clock.h"
 #include "tools/specimens/StillWindow.h"
 
-// Makes the screen buffer, at scale 2, and a clock that doesn't wait.
+// While it is there, so is the screen buffer, at scale 2, and a clock that does not wait.
 class DemoEditor : private Clock {
  public:
   // Places of the panel, in the middle of what they name.

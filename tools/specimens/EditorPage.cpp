@@ -2,9 +2,7 @@
 #include <functional>
 #include <vector>
 
-#include "drawing/Labeler.h"
 #include "gradient/GradientStops.h"
-#include "toolkit/SharedBuffers.h"
 #include "tools/specimens/DemoEditor.h"
 #include "tools/specimens/Pages.h"
 
@@ -86,7 +84,6 @@ void DrawPage(ImageBuffer& page, const std::vector<State>& states) {
   picture.Allocate(1280, 800, false);
   picture.SetScale(2.0F);
   picture.SetScaleAware(true);
-  SetScreenScale(picture.Scale());
   int32_t index = 0;
   for (const State& reach : states) {
     GradientRecord map;
@@ -97,8 +94,6 @@ void DrawPage(ImageBuffer& page, const std::vector<State>& states) {
     ++index;
   }
   picture.ScaleTo(page, picture.Bounds(), page.Bounds(), nullptr, {.boxFilter = true});
-  SetScreenScale(1.0F);
-  DestroyScreenBuffer();
 }
 
 }  // namespace
