@@ -11,6 +11,8 @@ extern "C" PF_Err EntryPointFunc(PF_Cmd cmd, PF_InData* in_data, PF_OutData* out
 
 namespace {
 
+constexpr int kMostEvents = 32;  // painting takes its time under sanitizers
+
 void Require(const CommandResult& result) {
   if (result.broken.empty()) return;
   std::cerr << result.broken.front() << '\n';
@@ -86,7 +88,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
   for (const PF_Cmd cmd : {PF_Cmd_GLOBAL_SETUP, PF_Cmd_PARAMS_SETUP}) Require(host.Send(cmd));
   Shown first(host, layer, input);
   Shown second(host, layer, input);
-  while (!input.IsEmpty()) {
+  for (int n = 0; n < kMostEvents && !input.IsEmpty(); ++n) {
     Replay(input, host, (input.Take<uint8_t>() & 3) == 0 ? second.row : first.row);
   }
   for (Shown* const shown : {&first, &second}) {
