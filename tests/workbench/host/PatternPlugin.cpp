@@ -1,7 +1,6 @@
 // An effect whose pixels a test can foretell, and that misses its world or its manners on demand.
 #include <atomic>
 #include <cstring>
-#include <mutex>
 #include <thread>
 
 #include "AE_EffectSuites.h"
@@ -38,22 +37,9 @@ PF_Err AddParameters(PF_InData* in_data, PF_OutData* out_data) {
   return PF_Err_NONE;
 }
 
-// The handle holds how many renders there were.
 PF_Err SetUpSequence(PF_InData* in_data, PF_OutData* out_data) {
-  const PF_Handle handle = in_data->utils->host_new_handle(sizeof(int32_t));
-  std::memset(in_data->utils->host_lock_handle(handle), 0, sizeof(int32_t));
-  in_data->utils->host_unlock_handle(handle);
-  out_data->sequence_data = handle;
+  out_data->sequence_data = in_data->utils->host_new_handle(8);
   return PF_Err_NONE;
-}
-
-void Count(void* record) {
-  static std::mutex mutex;
-  const std::scoped_lock guard(mutex);
-  int32_t count = 0;
-  std::memcpy(&count, record, sizeof count);
-  ++count;
-  std::memcpy(record, &count, sizeof count);
 }
 
 // Returns when two renders stand here at once.
@@ -82,10 +68,9 @@ void Draw(const PF_InData* in_data, PF_ParamDef* const* params, const PF_LayerDe
 
 PF_Err Render(PF_InData* in_data, PF_ParamDef** params, PF_LayerDef* output) {
   const A_long deed = params[1]->u.pd.value;
-  void* const record = in_data->utils->host_lock_handle(in_data->sequence_data);
-  if (record != nullptr) Count(record);
+  in_data->utils->host_lock_handle(in_data->sequence_data);
   if (deed == kMeet) MeetAnother();
-  if (record != nullptr) in_data->utils->host_unlock_handle(in_data->sequence_data);
+  in_data->utils->host_unlock_handle(in_data->sequence_data);
   Draw(in_data, params, output);
   if (deed == kBefore) RowOf(output, 0)[-1] = 0;
   if (deed == kPadding) RowOf(output, 3)[-2] = 1;
