@@ -43,7 +43,7 @@ void Measure(benchmark::State& state, uint8_t sourceAlpha, Draw draw) {
     draw(pictures.source, pictures.target);
     benchmark::ClobberMemory();
   }
-  state.SetBytesProcessed(static_cast<int64_t>(state.iterations() * kBytes));
+  state.SetBytesProcessed(state.iterations() * static_cast<int64_t>(kBytes));
 }
 
 void Memset(benchmark::State& state) {
