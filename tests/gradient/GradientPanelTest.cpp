@@ -104,7 +104,7 @@ TEST(GradientPanel, AChosenPresetIsTheMapAndLeavingTheMenuOnlyPushes) {
     editor.Release(Editor::kFreePlace);
     EXPECT_EQ(editor.calls, "pgpg") << preset;
     EXPECT_TRUE(Same(before, editor.Stops())) << preset;
-    // Neither its own bar nor any place beside the list chooses anything.
+    // A press beside the list closes it and does nothing else.
     editor.Click(Editor::kPresets);
     editor.Click(Editor::kFreePlace);
     EXPECT_EQ(editor.panel->GetPopup(), nullptr);

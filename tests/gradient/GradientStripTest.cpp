@@ -115,6 +115,15 @@ TEST(GradientStrip, AnyPickedNumbersAreKeptAndACancelledPickChangesNothing) {
   }
 }
 
+// A drag that goes on in a map with fewer stops has none to move there, nor one to bring back.
+TEST(GradientStrip, ADragThatChangesToAnotherMapLeavesItAlone) {
+  Editor editor({MapOf("0a 50b 100c"), MapOf("50d")});
+  editor.Play("d 104 24 m 110 24");
+  editor.SetInstance(1);
+  editor.Play("m 120 24 m 120 99 m 120 9 u");
+  EXPECT_EQ(TextOf(*editor.map), "50d");
+}
+
 // The host's dialog lets it send events for another instance before it answers.
 TEST(GradientStrip, APickedColourGoesToTheMapThatWasClicked) {
   Editor editor({MapOf("50b"), MapOf("50c")});
