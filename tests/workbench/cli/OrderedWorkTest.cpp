@@ -9,6 +9,7 @@
 #include <numeric>
 #include <stdexcept>
 #include <string>
+#include <thread>
 #include <vector>
 
 namespace {
@@ -42,16 +43,18 @@ TEST(OrderedWork, EndsWithTheFirstFailureInOrderAndTakesNothingBehindIt) {
     for (const int workers : {1, 4}) {
       std::vector<int64_t> taken;
       std::atomic<int> madeCount = 0;
-      const auto failFrom5 = [](bool isHere, int64_t item) {
-        if (isHere && item >= 5) throw std::runtime_error("item " + std::to_string(item));
+      const auto failAt5 = [](bool isHere, int64_t item) {
+        if (isHere && item == 5) throw std::runtime_error("item " + std::to_string(item));
       };
       OrderedWork work;
       work.make = [&](int /*worker*/, int64_t item) {
         ++madeCount;
-        failFrom5(inMake, item);
+        // Until every other worker has one of the items behind it.
+        while (item == 5 && madeCount < 5 + workers) std::this_thread::yield();
+        failAt5(inMake, item);
       };
       work.take = [&](int /*worker*/, int64_t item) {
-        failFrom5(!inMake, item);
+        failAt5(!inMake, item);
         taken.push_back(item);
       };
       try {

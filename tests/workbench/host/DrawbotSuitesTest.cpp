@@ -22,7 +22,8 @@ constexpr ClipBox kArea{0, 40, 300, 55};
 // A draw event in which a test plays the plug-in.
 class DrawEvent {
  public:
-  explicit DrawEvent(bool draws = true) : scope(host, nullptr, PF_Cmd_EVENT, {}) {
+  explicit DrawEvent(bool draws = true, Fault fault = {})
+      : scope(host, nullptr, PF_Cmd_EVENT, fault) {
     scope.pane = &pane;
     if (draws) scope.drawing = &drawing;
   }
@@ -143,6 +144,14 @@ TEST(DrawbotSuites, DrawInADrawEventOnly) {
   event.paths.Close(nullptr);
   EXPECT_EQ(event.reference, nullptr);
   EXPECT_EQ(event.scope.BrokenRules().size(), 3U);
+}
+
+TEST(DrawbotSuites, GiveNothingInTheCallThatIsToGiveNull) {
+  constexpr PF_Err kGivesNull = 0;
+  DrawEvent event(true, {1, kGivesNull});
+  EXPECT_EQ(event.Path(), nullptr);
+  EXPECT_EQ(event.Broken(), "");
+  EXPECT_NE(event.Path(), nullptr);
 }
 
 TEST(DrawbotSuites, KeepAnObjectUntilItsLastReferenceGoes) {
