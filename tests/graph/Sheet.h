@@ -25,7 +25,7 @@ struct Sheet {
         height(sheetHeight),
         pixels(static_cast<size_t>(width) * static_cast<size_t>(height), kGround) {}
 
-  PF_Pixel& At(int32_t x, int32_t y) { return pixels[static_cast<size_t>(y * width + x)]; }
+  PF_Pixel& At(int32_t x, int32_t y) { return pixels[static_cast<size_t>(int64_t{y} * width + x)]; }
 
   // The part of the sheet that begins at x, y.
   PF_LayerDef Part(int32_t x, int32_t y, int32_t partWidth, int32_t partHeight) {
