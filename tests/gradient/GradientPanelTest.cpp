@@ -79,7 +79,7 @@ TEST(GradientPanel, ButtonsCallInTheirOrderAndDisabledOnesNot) {
   editor.Event([](GradientPanel&) {});
   const ControlPane& paste = *editor.panel->FindDescendantById(201);
   EXPECT_FALSE(paste.IsEnabled());
-  editor.Click(Editor::kCopy);
+  editor.Press(Editor::kCopy);
   EXPECT_TRUE(paste.IsEnabled());
 }
 

@@ -12,8 +12,10 @@ constexpr int32_t kScreenSide = 1024;
 
 // What the callbacks of one event work on; it goes with the event.
 struct DemoEditor::Armed {
+  Armed(DemoEditor& hostEditor, GradientRecord& map) : editor(hostEditor), view(map) {}
+
   DemoEditor& editor;
-  GradientView& view;
+  GradientView view;
 
   // A callback that does `kAct` and is then heard.
   template <char kCall, auto kAct>
@@ -72,30 +74,30 @@ DemoEditor::~DemoEditor() {
 
 void DemoEditor::Event(const std::function<void(GradientPanel&)>& deliver) {
   if (panel == nullptr) return;
-  GradientView view(*map);
-  Armed armed{*this, view};
-  const GradientCallbacks callbacks = Callbacks(armed);
+  // Not on the stack, so that an address sanitizer sees who uses it after the event.
+  const auto armed = std::make_unique<Armed>(*this, *map);
+  const GradientCallbacks callbacks = Callbacks(*armed);
   panel->SetWindowContext(&window);
   panel->SetPanelCallbacks(&callbacks);
-  panel->SetPanelData(&view);
+  panel->SetPanelData(&armed->view);
   deliver(*panel);
   if (panel != nullptr) panel->ClearWindowContext();
 }
 
 void DemoEditor::Over(const Point& point) {
-  Event([&](GradientPanel& armed) { armed.MouseOver(point, {}); });
+  Event([&](GradientPanel& target) { target.MouseOver(point, {}); });
 }
 
 void DemoEditor::Press(const Point& point, bool isDouble) {
-  Event([&](GradientPanel& armed) { armed.MouseDown(point, {}, isDouble, kLeftButton); });
+  Event([&](GradientPanel& target) { target.MouseDown(point, {}, isDouble, kLeftButton); });
 }
 
 void DemoEditor::Drag(const Point& point) {
-  Event([&](GradientPanel& armed) { armed.MouseDrag(point, 0, 0, {}, kLeftButton); });
+  Event([&](GradientPanel& target) { target.MouseDrag(point, 0, 0, {}, kLeftButton); });
 }
 
 void DemoEditor::Release(const Point& point) {
-  Event([&](GradientPanel& armed) { armed.MouseUp(point, kLeftButton); });
+  Event([&](GradientPanel& target) { target.MouseUp(point, kLeftButton); });
 }
 
 void DemoEditor::Click(const Point& point) {
@@ -109,7 +111,7 @@ void DemoEditor::Choose(int32_t preset) {
 }
 
 void DemoEditor::Paint(ImageBuffer& picture, const Point& place) {
-  Event([&](GradientPanel& armed) {
-    armed.DrawTree(armed.GetLocalBounds(), {-place.x, -place.y}, picture);
+  Event([&](GradientPanel& target) {
+    target.DrawTree(target.GetLocalBounds(), {-place.x, -place.y}, picture);
   });
 }
