@@ -1,0 +1,107 @@
+// What the graph looks like.
+#include <algorithm>
+
+#include "drawing/SharedPainter.h"
+#include "gradient/CurveChain.h"
+#include "gradient/CurveGraph.h"
+#include "gradient/CurvePoints.h"
+#include "gradient/RampColor.h"
+#include "platform/Truncate.h"
+#include "toolkit/RectAlgebra.h"
+
+namespace {
+
+constexpr ColorBGRA kGround = Gray(36);
+constexpr ColorBGRA kShade = Gray(20);
+constexpr ColorBGRA kOutline = Gray(59);
+constexpr ColorBGRA kLine = Gray(200);
+constexpr ColorBGRA kFill = Gray(96);
+constexpr ColorBGRA kMark = Gray(148);
+constexpr ColorBGRA kSelectedMark(0xFF1C73AE);
+constexpr double kCornerRadius = 2.0;
+constexpr double kFilled = 0.0;
+constexpr double kOutlineWidth = 1.0;
+constexpr double kLineWidth = 1.5;
+constexpr int32_t kMarkReach = 3;
+constexpr int32_t kOpacity = 255;
+constexpr int32_t kDisabledOpacity = 64;
+
+void Draw(ImageBuffer& buffer, ColorBGRA color, int32_t opacity, const Rect& clip,
+          double lineWidth) {
+  SharedRasterizer().DrawPath(SharedPath(), buffer, color, opacity, false, &clip, nullptr,
+                              lineWidth);
+}
+
+// Where a point of the line is drawn. A stroke lies below what it follows from left to right;
+// raised by half its width, it shows at the top and at the bottom of the graph.
+PathPoint OnStroke(const PathPoint& point, const Rect& bounds) {
+  return {point.x + bounds.left, point.y + bounds.top - kLineWidth / 2};
+}
+
+// Dark outside and light inside, so that the ground seems to lie lower than the panel.
+void DrawGround(const PaintArea& area, ImageBuffer& buffer) {
+  SharedPath().SetRoundRect(area.bounds, kCornerRadius, true, true, true, true);
+  Draw(buffer, kGround, kOpacity, area.clip, kFilled);
+  Draw(buffer, kOutline, kOpacity, area.clip, 2 * kOutlineWidth);
+  Draw(buffer, kShade, kOpacity, area.clip, kOutlineWidth);
+}
+
+}  // namespace
+
+void CurveGraph::Paint(const Rect& rect, ImageBuffer& buffer, const Point& position) {
+  const PaintArea area = AreaInBuffer(GetLocalBounds(), rect, position);
+  const int32_t shownOpacity = IsEnabled() ? kOpacity : kDisabledOpacity;
+  DrawGround(area, buffer);
+  if (curve == nullptr) return;
+  if (freehand) {
+    PaintSamples(area, shownOpacity, buffer);
+  } else {
+    PaintCurve(area, shownOpacity, buffer);
+    PaintPoints(area, shownOpacity, buffer);
+  }
+}
+
+// A stroke of one column for each sample, from the bottom up to its value; one of 0.0 shows as
+// well.
+void CurveGraph::PaintSamples(const PaintArea& area, int32_t shownOpacity,
+                              ImageBuffer& buffer) const {
+  const int32_t height = Height();
+  for (int32_t i = 0; i < CurveSampleCount; ++i) {
+    const int32_t top =
+        std::min(Truncate<int32_t>(RowOfValue(curve->samples[i], height)), height - 1);
+    const Rect stroke = MovedBy(Rect{i, top, i + 1, height}, area.bounds.left, area.bounds.top);
+    buffer.FillRect(stroke, kFill, shownOpacity, &area.clip);
+    const Rect end = {stroke.left, stroke.top, stroke.right, stroke.top + 1};
+    buffer.FillRect(end, kLine, shownOpacity, &area.clip);
+  }
+}
+
+void CurveGraph::PaintCurve(const PaintArea& area, int32_t shownOpacity,
+                            ImageBuffer& buffer) const {
+  const CurveChain chain = BuildCurveChain(*curve, Height());
+  if (chain.count == 0) return;
+  PathBuilder& path = SharedPath();
+  path.Clear();
+  path.MoveTo(OnStroke(chain.segments[0][0], area.bounds));
+  for (size_t i = 0; i < chain.count; ++i) {
+    const Cubic& segment = chain.segments[i];
+    path.CubicTo(OnStroke(segment[1], area.bounds), OnStroke(segment[2], area.bounds),
+                 OnStroke(segment[3], area.bounds));
+  }
+  path.ClosePath();
+  Draw(buffer, kLine, shownOpacity, area.clip, kLineWidth);
+}
+
+void CurveGraph::PaintPoints(const PaintArea& area, int32_t shownOpacity,
+                             ImageBuffer& buffer) const {
+  const int32_t count = CountPoints(*curve);
+  for (int32_t i = 0; i < count; ++i) {
+    const int32_t x = Truncate<int32_t>(curve->pointX[i]);
+    const int32_t y = Truncate<int32_t>(RowOfValue(curve->pointY[i], Height()));
+    const Rect mark = {-kMarkReach, -kMarkReach, kMarkReach + 1, kMarkReach + 1};
+    const Rect place = MovedBy(mark, int64_t{area.bounds.left} + x, int64_t{area.bounds.top} + y);
+    SharedPath().SetRoundRect(place, kCornerRadius, true, true, true, true);
+    Draw(buffer, i == selectedPoint ? kSelectedMark : kMark, shownOpacity, area.clip, kFilled);
+    Draw(buffer, i == selectedPoint ? kLine : kShade, shownOpacity, area.clip, kOutlineWidth);
+  }
+}

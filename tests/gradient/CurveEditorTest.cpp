@@ -1,0 +1,217 @@
+// Catches presses, drags, keys and buttons that do the wrong thing to a curve, can't be undone, or
+// go on with a panel that a listener has deleted.
+#include <gtest/gtest.h>
+
+#include <limits>
+
+#include "tests/gradient/CurveEditor.h"
+
+namespace {
+
+TEST(CurveEditor, AddsSelectsDragsAndDeletesPoints) {
+  CurveEditor editor({0, 100, 200}, false);
+  editor.Press(50, 40);
+  EXPECT_EQ(editor.Actions(), "mouseDown ");
+  EXPECT_EQ(editor.Calls(), "npg");
+  EXPECT_EQ(editor.stored.Points(), (std::vector<float>{0, 50, 100, 200}));
+  EXPECT_EQ(editor.stored.record.pointY[1], 0.6F);
+  editor.Drag(97, 130);  // too near the next one, and below the graph
+  editor.Drag(90, 25);
+  editor.Drag(-3000, 25);
+  EXPECT_EQ(editor.stored.Points(), (std::vector<float>{0, 90, 100, 200}));
+  editor.Release();
+  EXPECT_EQ(editor.stored.record.samples[90], editor.stored.record.pointY[1]);
+  editor.Actions();
+
+  editor.Press(90 + 6, 25 + 4);  // within its area, which clears the selection
+  editor.Drag(60, 60);
+  EXPECT_EQ(editor.Actions(), "clearSelection ");
+  EXPECT_EQ(editor.stored.Points()[1], 90.0F);
+  editor.Release();
+}
+
+TEST(CurveEditor, KeepsThreePoints) {
+  CurveEditor editor({0, 100, 200}, false);
+  editor.Press(50, 40);
+  editor.Release();
+  editor.Key(65);
+  EXPECT_EQ(editor.stored.Points().size(), 4U);
+  editor.Key(127);
+  EXPECT_EQ(editor.stored.Points(), (std::vector<float>{0, 100, 200}));
+  editor.Press(50, 40);
+  editor.Key(127);
+  editor.Key(127);  // the selection went to the point before
+  EXPECT_EQ(editor.stored.Points(), (std::vector<float>{0, 100, 200}));
+}
+
+TEST(CurveEditor, DrawsFreehandWhateverThePointerDoes) {
+  CurveEditor editor({}, true);
+  editor.Press(10, 80);
+  editor.Drag(50, 40);
+  editor.Drag(50, 1000);
+  editor.Drag(40, 40);
+  constexpr int32_t kFar = std::numeric_limits<int32_t>::max();
+  editor.panel->MouseDrag({kFar, -kFar}, 0, 0, {}, kLeftButton);
+  editor.panel->MouseDrag({-kFar - 1, kFar}, 0, 0, {}, kLeftButton);
+  editor.Release();
+  const float* const samples = editor.stored.record.samples;
+  EXPECT_EQ(samples[9], 0.0F);
+  EXPECT_EQ(samples[10], 0.2F);
+  EXPECT_EQ(samples[25], 0.35F);
+  EXPECT_EQ(samples[40], 0.6F);
+  EXPECT_TRUE(editor.stored.GuardsAreWhole());
+  editor.Actions();
+  editor.Press(100, 50);
+  editor.Drag(100, 50);
+  EXPECT_EQ(editor.Actions(), "mouseDown ");  // no sample became another
+}
+
+TEST(CurveEditor, ARefusedPointIsNotDragged) {
+  CurveEditor editor({0, 100, 200}, false);
+  editor.Calls();
+  editor.Press(93, 20);
+  editor.Press(109, 20);
+  editor.stored = StoredCurve({});
+  editor.Calls();
+  for (int32_t i = 0; i < 25; ++i) editor.stored.record.pointX[i] = static_cast<float>(4 * i);
+  editor.Press(150, 50);
+  EXPECT_EQ(editor.Calls(), "n");
+  editor.Drag(20, 20);
+  editor.Release();
+  EXPECT_EQ(editor.stored.Points().size(), 25U);
+  EXPECT_EQ(editor.stored.record.pointX[5], 20.0F);
+}
+
+TEST(CurveEditor, ButtonsEditBetweenUndoAndNote) {
+  struct ButtonCase {
+    Point place;
+    bool freehand;
+    const char* calls;
+    const char* actions;
+  };
+  const ButtonCase cases[] = {
+      {kSmoothPlace, true, "pgn", "smooth "},
+      {kSmoothPlace, false, "pn", ""},
+      {kRandomizePlace, true, "pgn", "randomize "},
+      {kRandomizePlace, false, "pgn", "randomize "},
+      {kFlipPlace, false, "pgn", "flipX "},
+      {kCopyPlace, false, "gc", "clearSelection "},
+      {kPastePlace, false, "vg", " "},
+      {kCurveModePlace, true, "pn", ""},
+      {kCurveModePlace, false, "pn", ""},
+      {kFreehandModePlace, false, "pgn", "setFreeHandMode "},
+      {kResetPlace, true, "pgn", " "},
+      {kUndoPlace, false, "ug", "clearSelection "},
+  };
+  for (const ButtonCase& c : cases) {
+    CurveEditor editor({0, 50, 100}, c.freehand);
+    editor.stored.record.samples[7] = 0.5F;
+    editor.Click(c.place);
+    EXPECT_EQ(editor.Calls(), c.calls) << c.place.x << ' ' << c.place.y;
+    EXPECT_EQ(editor.Actions(), c.actions) << c.place.x << ' ' << c.place.y;
+  }
+}
+
+TEST(CurveEditor, EveryEditCanBeUndone) {
+  const std::function<void(CurveEditor&)> edits[] = {
+      [](CurveEditor& e) { e.Press(60, 30), e.Drag(70, 50), e.Release(); },
+      [](CurveEditor& e) { e.Click(kRandomizePlace); },
+      [](CurveEditor& e) { e.Click(kFlipPlace); },
+      [](CurveEditor& e) { e.Click(kSmoothPlace, true); },
+      [](CurveEditor& e) { e.Click(kResetPlace); },
+      [](CurveEditor& e) {
+        e.Click(kPresetsPlace), e.Click({265, 104});
+      },
+  };
+  for (const bool freehand : {true, false}) {
+    for (size_t i = 0; i < std::size(edits); ++i) {
+      CurveEditor editor({0, 40, 90, 180}, freehand);
+      editor.stored.record.samples[60] = 0.75F;
+      editor.panel->GetGraph().Publish("", false);
+      const StoredCurve before = editor.stored;
+      edits[i](editor);
+      const bool isSmooth = i == 3;
+      EXPECT_EQ(editor.stored == before, isSmooth && !freehand) << freehand << ' ' << i;
+      editor.Click(kUndoPlace);
+      EXPECT_EQ(editor.stored, before) << freehand << ' ' << i;
+    }
+  }
+}
+
+TEST(CurveEditor, ShowsTheCurveOfTheModeInItsOwnWay) {
+  struct ModeCase {
+    int32_t mode;
+    uint32_t flag;
+    size_t curve;
+  };
+  for (const ModeCase& c : {ModeCase{0, 2, 1}, {1, 1, 0}, {2, 4, 2}, {3, 2, 1}, {-9, 2, 1}}) {
+    CurveEditor editor({0, 100, 200}, false);
+    editor.record.mode = c.mode;
+    editor.record.freehandFlags = c.flag;
+    editor.Arm();
+    EXPECT_EQ(editor.panel->GetGraph().GetCurve(), &editor.record.curves[c.curve]) << c.mode;
+    EXPECT_TRUE(editor.panel->GetGraph().IsFreehand()) << c.mode;
+    editor.Click(kCurveModePlace);
+    EXPECT_EQ(editor.record.freehandFlags, 0U) << c.mode;
+    editor.record.freehandFlags = ~c.flag;
+    editor.Arm();
+    EXPECT_FALSE(editor.panel->GetGraph().IsFreehand()) << c.mode;
+  }
+}
+
+TEST(CurveEditor, AnyCallMayDeleteThePanel) {
+  const std::function<void(CurveEditor&)> events[] = {
+      [](CurveEditor& e) { e.Press(60, 30), e.Drag(70, 40), e.Release(), e.Key(127); },
+      [](CurveEditor& e) { e.Click(kRandomizePlace); },
+      [](CurveEditor& e) { e.Click(kCopyPlace), e.Click(kPastePlace); },
+      [](CurveEditor& e) { e.Click(kUndoPlace), e.Click(kResetPlace); },
+      [](CurveEditor& e) { e.Click(kFreehandModePlace), e.Click(kCurveModePlace); },
+      [](CurveEditor& e) {
+        e.Click(kPresetsPlace), e.Click({265, 104});
+      },
+  };
+  for (const auto& event : events) {
+    for (int32_t last = 0; last < 9; ++last) {
+      CurveEditor editor({0, 40, 90, 180}, false);
+      int32_t count = 0;
+      editor.onCall = [&](char) {
+        if (count++ == last) editor.panel.reset();
+      };
+      event(editor);
+      EXPECT_EQ(editor.panel == nullptr, count > last);
+      EXPECT_LE(count, last + 1);
+    }
+  }
+}
+
+TEST(CurvePresets, StandAtTheirTurningPoints) {
+  const CurvePresetSource source(100);
+  struct PresetCase {
+    int32_t preset, position;
+    float value;
+  };
+  for (const PresetCase& c : {PresetCase{0, 200, 1.0F},
+                              {1, 0, 1.0F},
+                              {1, 200, 0.004975F},
+                              {2, 49, 0.975124F},
+                              {2, 50, 1.0F},
+                              {2, 200, 0.004975F},
+                              {3, 25, 0.5F},
+                              {3, 100, 1.0F},
+                              {3, 175, 0.5F},
+                              {3, 200, 0.0F},
+                              {4, 74, 1.0F},
+                              {4, 100, 0.5F},
+                              {4, 126, 0.0F},
+                              {5, 49, 1.0F},
+                              {5, 112, 0.505999F},
+                              {5, 185, 1.0F},
+                              {5, 195, 0.0F}}) {
+    EXPECT_NEAR(source.GetPreset(c.preset).samples[c.position], c.value, 1e-6F)
+        << c.preset << ' ' << c.position;
+  }
+  const float* const last = source.GetPreset(5).samples;
+  EXPECT_EQ(std::count(last + 75, last + 201, 1.0F), 24);
+}
+
+}  // namespace
