@@ -17,6 +17,10 @@ void DrawBlendPage(ImageBuffer& page);
 // The colour map's panel at work, and at its ends: disabled, no stop, fifty stops, presets.
 void DrawEditorPage(ImageBuffer& page);
 void DrawEditorEndsPage(ImageBuffer& page);
+// The curve editor in both modes and at its ends, and its presets.
+void DrawEvolutionPage(ImageBuffer& page);
+void DrawEvolutionEndsPage(ImageBuffer& page);
+void DrawCurvePresetPage(ImageBuffer& page);
 // Text as it stands on panels, the widths of pairs, and every glyph of every font.
 void DrawTextPage(ImageBuffer& page);
 void DrawGlyphsPage(ImageBuffer& page);

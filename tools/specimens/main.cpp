@@ -14,9 +14,17 @@ constexpr int kWidth = 640;
 constexpr int kHeight = 400;
 
 const std::vector<Page> kPages = {
-    {"icons", DrawIconPage},   {"buttons", DrawButtonPage}, {"shapes", DrawShapePage},
-    {"blends", DrawBlendPage}, {"editor", DrawEditorPage},  {"editor-ends", DrawEditorEndsPage},
-    {"text", DrawTextPage},    {"glyphs", DrawGlyphsPage},
+    {"icons", DrawIconPage},
+    {"buttons", DrawButtonPage},
+    {"shapes", DrawShapePage},
+    {"blends", DrawBlendPage},
+    {"editor", DrawEditorPage},
+    {"editor-ends", DrawEditorEndsPage},
+    {"evolution", DrawEvolutionPage},
+    {"evolution-ends", DrawEvolutionEndsPage},
+    {"curve-presets", DrawCurvePresetPage},
+    {"text", DrawTextPage},
+    {"glyphs", DrawGlyphsPage},
 };
 
 void Write(const ImageBuffer& picture, const std::filesystem::path& file) {
