@@ -91,7 +91,7 @@ TEST_F(PanelRun, ShowsEachStateOfTheRowAndWhatASnapshotSaw) {
 }
 
 TEST_F(PanelRun, AFrameIsWhatTheHostShowsThen) {
-  folder.Write("f.txt", "frame a.png 29\nframe b b.png\nclick 156 79\nframe c.png 29");
+  folder.Write("f.txt", "frame b b.png\nframe a.png 29\nclick 156 79\nframe c.png 29");
   EXPECT_EQ(Run({"panel", "a.wav", "--events", "f.txt", "--out", "o.png"}).status, 0);
   const auto frame = [this](const char* number) {
     EXPECT_EQ(Run({"render", "a.wav", "--frames", number, "--out", "r.png"}).status, 0);
