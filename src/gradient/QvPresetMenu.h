@@ -1,7 +1,6 @@
 // Holds the list that a drop-down of presets opens.
 #pragma once
 
-#include "toolkit/ControlWatch.h"
 #include "toolkit/PopupContextMenu.h"
 
 class QvPresetDropDown;

@@ -35,7 +35,7 @@ UndoRedoPanel::UndoRedoPanel(ControlPane* ownerPane, const Rect& initialBounds,
     : ControlPane(ownerPane, initialBounds), listener(newListener) {
   const Rect area = GetLocalBounds();
   const int32_t gap = (area.right - 3 * kButtonSide) / 2;
-  const int32_t top = Truncate<int32_t>(area.bottom * 0.5 - 8.0);
+  const auto top = Truncate<int32_t>(area.bottom * 0.5 - 8.0);
   const int32_t redoLeft = gap / 2 + kButtonSide;
   if (withUndoRedo) {
     undoButton = AddButton(*this, {0, top}, kUndoId, "Undo");
