@@ -11,7 +11,8 @@ namespace {
 
 // Logical pixels of a picture at scale 2.
 ColorBGRA At(const ImageBuffer& picture, int32_t x, int32_t y) {
-  return picture.Row(2 * y)[2 * x];
+  const int32_t column = 2 * x;
+  return picture.Row(2 * y)[column];
 }
 
 Rect MovedToStrip(const Rect& rect) {

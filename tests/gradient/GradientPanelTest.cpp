@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <limits>
 
 #include "gradient/GradientStops.h"
@@ -13,7 +14,9 @@ namespace {
 const std::vector<Stop> kStops = {{10, 0.25F, 0.5F, 1.0F}, {90, 1.0F, 0.0F, 0.5F}, {90, 0, 1, 0}};
 
 bool Same(const GradientSnapshot& a, const GradientSnapshot& b) {
-  return std::memcmp(&a, &b, sizeof a) == 0;
+  return std::ranges::equal(a.stopPosition, b.stopPosition) &&
+         std::ranges::equal(a.stopRed, b.stopRed) && std::ranges::equal(a.stopGreen, b.stopGreen) &&
+         std::ranges::equal(a.stopBlue, b.stopBlue);
 }
 
 struct EditCase {

@@ -21,7 +21,7 @@ StoredMap WithItsRamp(StoredMap map) {
 
 TEST(InitRecord, WritesTheDefaultMapAndNoByteOfAlignment) {
   std::vector<Stop> stops = {{0, 1, 0, 0}, {50, 1, 1, 0}, {100, 0, 1, 0}, {150, 0, 1, 1}};
-  stops.push_back({200, 0, 0, 1});
+  stops.emplace_back(uint8_t{200}, 0.0F, 0.0F, 1.0F);
   stops.resize(50, {255, 0, 0, 0});
   StoredMap map(uint8_t{0xA5});
   InitRecord(map.Record());

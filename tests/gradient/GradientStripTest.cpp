@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <bit>
 #include <cmath>
 #include <limits>
 
@@ -109,7 +110,8 @@ TEST(GradientStrip, AnyPickedNumbersAreKeptAndACancelledPickChangesNothing) {
     EXPECT_EQ(TextOf(*editor.map), "0a 50b") << number;
     editor.accepts = true;
     editor.Play("D 54 24 u");
-    EXPECT_EQ(std::memcmp(&editor.map->stopRed[1], &number, 4), 0) << number;
+    EXPECT_EQ(std::bit_cast<uint32_t>(editor.map->stopRed[1]), std::bit_cast<uint32_t>(number))
+        << number;
     ImageBuffer picture;
     editor.PaintAlone(picture);
   }
