@@ -30,18 +30,17 @@ TEST(CurveEditor, AddsSelectsDragsAndDeletesPoints) {
   editor.Release();
 }
 
-TEST(CurveEditor, KeepsThreePoints) {
-  CurveEditor editor({0, 100, 200}, false);
+TEST(CurveEditor, DeletesPointsDownToThree) {
+  CurveEditor editor({0, 100, 150, 200}, false);
   editor.Press(50, 40);
-  editor.Release();
   editor.Key(65);
-  EXPECT_EQ(editor.stored.Points().size(), 4U);
   editor.Key(127);
-  EXPECT_EQ(editor.stored.Points(), (std::vector<float>{0, 100, 200}));
-  editor.Press(50, 40);
-  editor.Key(127);
+  EXPECT_EQ(editor.stored.Points(), (std::vector<float>{0, 100, 150, 200}));
   editor.Key(127);  // the selection went to the point before
-  EXPECT_EQ(editor.stored.Points(), (std::vector<float>{0, 100, 200}));
+  EXPECT_EQ(editor.stored.Points(), (std::vector<float>{100, 150, 200}));
+  editor.Press(150, 95);
+  editor.Key(127);
+  EXPECT_EQ(editor.stored.Points().size(), 3U);
 }
 
 TEST(CurveEditor, DrawsFreehandWhateverThePointerDoes) {
@@ -50,11 +49,12 @@ TEST(CurveEditor, DrawsFreehandWhateverThePointerDoes) {
   editor.Drag(50, 40);
   editor.Drag(50, 1000);
   editor.Drag(40, 40);
+  const float* const samples = editor.stored.record.samples;
+  EXPECT_EQ(samples[45], 0.55F);  // the line there ran below the graph
   constexpr int32_t kFar = std::numeric_limits<int32_t>::max();
   editor.panel->MouseDrag({kFar, -kFar}, 0, 0, {}, kLeftButton);
   editor.panel->MouseDrag({-kFar - 1, kFar}, 0, 0, {}, kLeftButton);
   editor.Release();
-  const float* const samples = editor.stored.record.samples;
   EXPECT_EQ(samples[9], 0.0F);
   EXPECT_EQ(samples[10], 0.2F);
   EXPECT_EQ(samples[25], 0.35F);
@@ -68,10 +68,6 @@ TEST(CurveEditor, DrawsFreehandWhateverThePointerDoes) {
 
 TEST(CurveEditor, ARefusedPointIsNotDragged) {
   CurveEditor editor({0, 100, 200}, false);
-  editor.Calls();
-  editor.Press(93, 20);
-  editor.Press(109, 20);
-  editor.stored = StoredCurve({});
   editor.Calls();
   for (int32_t i = 0; i < 25; ++i) editor.stored.record.pointX[i] = static_cast<float>(4 * i);
   editor.Press(150, 50);
@@ -153,6 +149,8 @@ TEST(CurveEditor, ShowsTheCurveOfTheModeInItsOwnWay) {
     EXPECT_TRUE(editor.panel->GetGraph().IsFreehand()) << c.mode;
     editor.Click(kCurveModePlace);
     EXPECT_EQ(editor.record.freehandFlags, 0U) << c.mode;
+    editor.Click(kFreehandModePlace);
+    EXPECT_EQ(editor.record.freehandFlags, c.flag) << c.mode;
     editor.record.freehandFlags = ~c.flag;
     editor.Arm();
     EXPECT_FALSE(editor.panel->GetGraph().IsFreehand()) << c.mode;
