@@ -46,3 +46,8 @@ Point WindowContext_AE::GetScreenMousePosition() const {
   const PointerPosition position = GetPointerPosition();
   return {position.x, position.y};
 }
+
+Point WindowContext_AE::GetScreenSize() const {
+  const PointerPosition extent = GetScreenExtent();
+  return {extent.x, extent.y};
+}

@@ -25,6 +25,7 @@ class WindowContext_AE final : public WindowContext {
   void SetMousePosition(const Point& point) override;
   void SetScreenMousePosition(const Point& point) override;
   Point GetScreenMousePosition() const override;
+  Point GetScreenSize() const override;
 
  private:
   Rect clientRect;

@@ -13,6 +13,9 @@ struct PointerPosition {
 PointerPosition GetPointerPosition();
 void SetPointerPosition(const PointerPosition& position);
 
+// The lower right end of the screen; 0 where there is none.
+PointerPosition GetScreenExtent();
+
 // Nothing where the system doesn't say.
 std::optional<bool> IsPointerShown();
 

@@ -15,6 +15,10 @@ void SetPointerPosition(const PointerPosition& position) {
   lastPosition = position;
 }
 
+PointerPosition GetScreenExtent() {
+  return {};
+}
+
 std::optional<bool> IsPointerShown() {
   return std::nullopt;
 }

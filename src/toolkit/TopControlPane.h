@@ -2,10 +2,12 @@
 #pragma once
 
 #include <cstdint>
+#include <memory>
 #include <vector>
 
 #include "toolkit/ControlPane.h"
 #include "toolkit/ControlWatch.h"
+#include "toolkit/MouseMoveFilter.h"
 #include "toolkit/ParameterOwner.h"
 
 class TopControlPane : public ControlPane, public ParameterOwner {
@@ -46,6 +48,9 @@ class TopControlPane : public ControlPane, public ParameterOwner {
   virtual ControlPane* GetCapture() const;
   virtual Point GetLastMousePoint() const;
   virtual void GetLastMouseDelta(float* dx, float* dy) const;
+
+  // Drags that match are thrown away, until the release or another filter; null for none.
+  void SetMouseMoveFilter(std::unique_ptr<MouseMoveFilter> filter);
 
   // A control that isn't in the tree is ignored.
   // notify   whether a control that loses the focus keeps what was entered: see FocusNotifies
@@ -102,8 +107,11 @@ class TopControlPane : public ControlPane, public ParameterOwner {
                    int32_t button);
   void OpenContextMenu(ControlPane* hit, const Point& point);
   void MoveHover(ControlPane* hit);
+  bool IsMoveFiltered() const;
   int32_t AskForCursor(ControlPane* hit, const Point& point, const Modifiers& modifiers);
   void ReleaseCaptured(ControlPane& captured, const Point& point);
   bool StepFocus(const Modifiers& modifiers);
   void DeletePendingChildren();
+
+  std::unique_ptr<MouseMoveFilter> mouseMoveFilter;
 };

@@ -1,5 +1,6 @@
 // How the mouse's events reach the control that they are for.
 #include <algorithm>
+#include <utility>
 
 #include "toolkit/PopupContextMenu.h"
 #include "toolkit/RectAlgebra.h"
@@ -88,7 +89,7 @@ void TopControlPane::OpenContextMenu(ControlPane* hit, const Point& point) {
 
 void TopControlPane::MouseDrag(const Point& point, float dx, float dy,
                                const Modifiers& /*modifiers*/, int32_t /*button*/) {
-  if (windowContext == nullptr || !capturedControl) return;
+  if (windowContext == nullptr || !capturedControl || IsMoveFiltered()) return;
   lastMousePoint = point;
   lastMouseDeltaX = dx;
   lastMouseDeltaY = dy;
@@ -109,8 +110,18 @@ void TopControlPane::MouseDrag(const Point& point, float dx, float dy,
   }
 }
 
+void TopControlPane::SetMouseMoveFilter(std::unique_ptr<MouseMoveFilter> filter) {
+  mouseMoveFilter = std::move(filter);
+}
+
+bool TopControlPane::IsMoveFiltered() const {
+  return mouseMoveFilter != nullptr &&
+         mouseMoveFilter->Matches(windowContext->GetScreenMousePosition());
+}
+
 bool TopControlPane::MouseUp(const Point& point, int32_t /*button*/) {
   const ControlWatch self(this);
+  SetMouseMoveFilter(nullptr);
   bool delivered = false;
   if (windowContext != nullptr) {
     windowContext->ShowCursor(true);

@@ -13,6 +13,10 @@ bool WindowContext::SetCursorInRect(const Point& point, const Rect& rect, int32_
 
 void WindowContext::Flush() {}
 
+Point WindowContext::GetScreenSize() const {
+  return {};
+}
+
 void WindowContext::Invalidate(const Rect& rect) {
   invalidRect = UnionOf(invalidRect, rect);
 }

@@ -25,6 +25,8 @@ class WindowContext {
   virtual void Flush();
   virtual void SetScreenMousePosition(const Point& point) = 0;
   virtual Point GetScreenMousePosition() const = 0;
+  // Width and height; 0 where there is no screen.
+  virtual Point GetScreenSize() const;
   // Adds an area that is to be painted again.
   virtual void Invalidate(const Rect& rect);
   virtual Rect GetInvalidRect() const;
