@@ -1,4 +1,4 @@
-// The title that a control of its own kind keeps beside what else it is.
+// The title of a control that has one.
 #pragma once
 
 #include <string>
@@ -8,8 +8,11 @@ class TitleString {
  public:
   TitleString() = default;
   explicit TitleString(std::string newTitle) : title(std::move(newTitle)) {}
+  TitleString(const TitleString&) = delete;
+  TitleString& operator=(const TitleString&) = delete;
   virtual ~TitleString() = default;
 
+  // Any bytes; what follows a 0 isn't shown.
   virtual void SetTitle(const std::string& newTitle) { title = newTitle; }
   virtual const std::string& GetTitle() const { return title; }
 
