@@ -24,3 +24,5 @@ void DrawCurvePresetPage(ImageBuffer& page);
 // Text as it stands on panels, the widths of pairs, and every glyph of every font.
 void DrawTextPage(ImageBuffer& page);
 void DrawGlyphsPage(ImageBuffer& page);
+// Numbers, editors, combos, links, labels and blocks of text, in each of their states.
+void DrawTextControlsPage(ImageBuffer& page);

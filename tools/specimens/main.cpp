@@ -25,6 +25,9 @@ const std::vector<Page> kPages = {
     {"curve-presets", DrawCurvePresetPage},
     {"text", DrawTextPage},
     {"glyphs", DrawGlyphsPage},
+    {"icons", DrawIconPage},   {"buttons", DrawButtonPage}, {"shapes", DrawShapePage},
+    {"blends", DrawBlendPage}, {"editor", DrawEditorPage},  {"editor-ends", DrawEditorEndsPage},
+    {"text", DrawTextPage},    {"glyphs", DrawGlyphsPage},  {"text-controls", DrawTextControlsPage},
 };
 
 void Write(const ImageBuffer& picture, const std::filesystem::path& file) {
