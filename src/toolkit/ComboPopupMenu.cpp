@@ -145,7 +145,7 @@ void ComboPopupMenu::SetBounds(const Rect& newBounds) {
   PopupTextMenu::SetBounds(newBounds);
   const Rect room = ControlPane::GetLocalBounds();
   if (!textField) return;
-  textField->SetBounds({0, 0, std::max(0, room.right - kArrowWidth - kGap), room.bottom});
+  textField->SetBounds({0, 0, std::max(0, room.right) - kArrowWidth - kGap, room.bottom});
 }
 
 void ComboPopupMenu::SetEnabled(bool enabled) {
