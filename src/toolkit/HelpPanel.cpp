@@ -1,8 +1,6 @@
 // A panel for the help texts of controls.
 #include "toolkit/HelpPanel.h"
 
-#include <algorithm>
-
 #include "drawing/Labeler.h"
 #include "drawing/SharedPainter.h"
 #include "toolkit/PaintArea.h"

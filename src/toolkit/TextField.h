@@ -67,7 +67,6 @@ class TextField {
   void RestartBlink();
   // Tells whether the caret has to be painted again.
   bool Blink();
-  bool IsCaretShown() const { return blinkOn; }
 
   // The text, and where the field has the focus its selection and caret. All logical pixels.
   void DrawText(ImageBuffer& buffer, const Rect& box, const FieldLook& look,
