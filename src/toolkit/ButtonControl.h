@@ -62,6 +62,7 @@ class ButtonControl : public ControlPane {
  protected:
   // Under the pointer, and not since before the last press.
   bool ShowsHover() const { return mouseOver && !hoverSuppressed; }
+  bool HasFocus();
   PaintArea AreaToPaint(const Rect& rect, const Point& position) const;
   // Tells whether there is a strip, which is then all that the button shows.
   bool PaintStrip(const PaintArea& area, ImageBuffer& buffer) const;
@@ -95,7 +96,6 @@ class ButtonControl : public ControlPane {
   // Stores a value; one that differs wants a repaint.
   template <typename Value>
   void Change(Value& field, const Value& value);
-  bool HasFocus();
   int32_t ShownState() const;
   int32_t ShapeOpacity() const;
   int32_t ImageOpacity() const;
