@@ -12,6 +12,10 @@ struct Page {
 
 void DrawIconPage(ImageBuffer& page);
 void DrawButtonPage(ImageBuffer& page);
+// Stock controls in all their looks: along a track, switched by a press, with a caption.
+void DrawRangePage(ImageBuffer& page);
+void DrawSwitchPage(ImageBuffer& page);
+void DrawTitledPage(ImageBuffer& page);
 void DrawShapePage(ImageBuffer& page);
 void DrawBlendPage(ImageBuffer& page);
 // The colour map's panel at work, and at its ends: disabled, no stop, fifty stops, presets.

@@ -28,6 +28,10 @@ const std::vector<Page> kPages = {
     {"icons", DrawIconPage},   {"buttons", DrawButtonPage}, {"shapes", DrawShapePage},
     {"blends", DrawBlendPage}, {"editor", DrawEditorPage},  {"editor-ends", DrawEditorEndsPage},
     {"text", DrawTextPage},    {"glyphs", DrawGlyphsPage},  {"text-controls", DrawTextControlsPage},
+    {"icons", DrawIconPage},      {"buttons", DrawButtonPage}, {"shapes", DrawShapePage},
+    {"blends", DrawBlendPage},    {"editor", DrawEditorPage},  {"editor-ends", DrawEditorEndsPage},
+    {"text", DrawTextPage},       {"glyphs", DrawGlyphsPage},  {"ranges", DrawRangePage},
+    {"switches", DrawSwitchPage}, {"titled", DrawTitledPage},
 };
 
 void Write(const ImageBuffer& picture, const std::filesystem::path& file) {
