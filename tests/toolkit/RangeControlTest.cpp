@@ -110,6 +110,8 @@ TEST(ScrollPane, BarsComeAndGoWithTheContentAndTakeTheirRoom) {
     EXPECT_EQ(pane.GetBar(ScrollAxis::kVertical)->GetPosition(), most.y);
     pane.SetBounds({0, 0, 500, 500});
     EXPECT_EQ(pane.GetView()->GetOffset(), Point());
+    const bool stays = c.policy == kBarAlways;
+    EXPECT_EQ(pane.ContainsChild(pane.GetBar(ScrollAxis::kVertical)), stays) << c.content.x;
   }
   const ScrollPane bare(nullptr, {0, 0, 100, 80}, 0, -3);
   EXPECT_TRUE(bare.GetBar(ScrollAxis::kVertical) == nullptr &&
