@@ -16,6 +16,10 @@ constexpr int kHeight = 400;
 const std::vector<Page> kPages = {
     {"icons", DrawIconPage},
     {"buttons", DrawButtonPage},
+    {"ranges", DrawRangePage},
+    {"switches", DrawSwitchPage},
+    {"titled", DrawTitledPage},
+    {"text-controls", DrawTextControlsPage},
     {"shapes", DrawShapePage},
     {"blends", DrawBlendPage},
     {"editor", DrawEditorPage},
@@ -25,13 +29,6 @@ const std::vector<Page> kPages = {
     {"curve-presets", DrawCurvePresetPage},
     {"text", DrawTextPage},
     {"glyphs", DrawGlyphsPage},
-    {"icons", DrawIconPage},   {"buttons", DrawButtonPage}, {"shapes", DrawShapePage},
-    {"blends", DrawBlendPage}, {"editor", DrawEditorPage},  {"editor-ends", DrawEditorEndsPage},
-    {"text", DrawTextPage},    {"glyphs", DrawGlyphsPage},  {"text-controls", DrawTextControlsPage},
-    {"icons", DrawIconPage},      {"buttons", DrawButtonPage}, {"shapes", DrawShapePage},
-    {"blends", DrawBlendPage},    {"editor", DrawEditorPage},  {"editor-ends", DrawEditorEndsPage},
-    {"text", DrawTextPage},       {"glyphs", DrawGlyphsPage},  {"ranges", DrawRangePage},
-    {"switches", DrawSwitchPage}, {"titled", DrawTitledPage},
 };
 
 void Write(const ImageBuffer& picture, const std::filesystem::path& file) {
