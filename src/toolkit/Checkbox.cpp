@@ -18,7 +18,7 @@ constexpr int32_t kDisabledOpacity = 120;
 void PaintMark(const PaintTarget& target, const Rect& box, ColorBGRA color) {
   const double x = box.left;
   const double y = box.top;
-  const double side = static_cast<double>(WidthOf(box));
+  const auto side = static_cast<double>(WidthOf(box));
   const PathPoint corner = {x + side * 0.42, y + side * 0.72};
   DrawBar(target, {x + side * 0.20, y + side * 0.50}, {corner.x + 0.5, corner.y + 0.5}, kMarkWidth,
           color);

@@ -13,6 +13,7 @@ namespace {
 
 constexpr int32_t kBarWidth = 12;
 constexpr int32_t kFrame = 1;
+constexpr int64_t kBothFrames = 2;
 constexpr int32_t kUsualMostHeight = 160;
 constexpr int32_t kLeastHeight = 36;  // a row and the list's margins
 constexpr double kCornerRadius = 3.0;
@@ -38,10 +39,10 @@ void ScrollingMenuEnclosure::Rebuild() {
   if (!sub || !scrollPane) return;
   GetSub()->RebuildItems(nullptr);
   const Rect list = GetSub()->GetLocalBounds();
-  const int64_t wantedHeight = int64_t{list.bottom} + 2 * kFrame;
+  const int64_t wantedHeight = int64_t{list.bottom} + kBothFrames;
   const int64_t height = std::min<int64_t>(wantedHeight, mostHeight);
   const int64_t barWidth = height < wantedHeight ? kBarWidth : 0;
-  bounds.right = Narrowed(bounds.left + int64_t{list.right} + barWidth + 2 * kFrame);
+  bounds.right = Narrowed(bounds.left + int64_t{list.right} + barWidth + kBothFrames);
   bounds.bottom = Narrowed(bounds.top + height);
   scrollPane->SetBounds(InsetBy(GetLocalBounds(), kFrame));
 }

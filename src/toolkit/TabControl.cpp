@@ -10,7 +10,7 @@
 
 namespace {
 
-constexpr int32_t kPadX = 10;
+constexpr int64_t kBothPads = 20;  // beside a caption
 constexpr double kCornerRadius = 2.0;
 constexpr double kOutlineWidth = 1.0;
 constexpr ColorBGRA kActiveFill{0xFF4A4A4A};
@@ -106,7 +106,7 @@ std::vector<Rect> TabControl::LayOutTabs() const {
   ends.reserve(tabs.size());
   int64_t total = 0;
   for (const std::string& caption : tabs) {
-    total += int64_t{MeasureCaption(caption)} + 2 * kPadX;
+    total += int64_t{MeasureCaption(caption)} + kBothPads;
     ends.push_back(total);
   }
   const int64_t room = std::max(local.right, 0);
