@@ -19,7 +19,7 @@ constexpr int32_t kShortestThumb = 30;
 int32_t ThumbTrack::ThumbStart(double fraction) const {
   // Written so that NaN is 0.
   const double held = fraction > 0.0 ? std::min(fraction, 1.0) : 0.0;
-  const double room = static_cast<double>(int64_t{last} - first);
+  const auto room = static_cast<double>(int64_t{last} - first);
   return Narrowed(first + Truncate<int64_t>(held * room + 0.5));
 }
 

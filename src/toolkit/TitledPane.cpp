@@ -2,6 +2,7 @@
 #include "toolkit/TitledPane.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "toolkit/RectAlgebra.h"
 
@@ -11,9 +12,11 @@ constexpr int32_t kGap = 6;  // between caption and control
 
 }  // namespace
 
-TitledPane::TitledPane(ControlPane* ownerPane, const Rect& initialBounds,
-                       const std::string& newTitle, int32_t widthOfTitle)
-    : StockControl(ownerPane, initialBounds), title(newTitle), titleWidth(widthOfTitle) {}
+TitledPane::TitledPane(ControlPane* ownerPane, const Rect& initialBounds, std::string newTitle,
+                       int32_t widthOfTitle)
+    : StockControl(ownerPane, initialBounds),
+      title(std::move(newTitle)),
+      titleWidth(widthOfTitle) {}
 
 void TitledPane::SetBounds(const Rect& newBounds) {
   StockControl::SetBounds(newBounds);

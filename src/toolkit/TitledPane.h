@@ -10,7 +10,7 @@ class TitledPane : public StockControl {
  public:
   // newTitle       any bytes
   // widthOfTitle   what the caption takes; the control gets the rest
-  TitledPane(ControlPane* ownerPane, const Rect& initialBounds, const std::string& newTitle,
+  TitledPane(ControlPane* ownerPane, const Rect& initialBounds, std::string newTitle,
              int32_t widthOfTitle);
 
   void SetBounds(const Rect& newBounds) override;
