@@ -74,8 +74,8 @@ int32_t CurveGraph::FindPoint(const Point& point) const {
       continue;
     }
     const float row = RowOfValue(curve->pointY[i], Height());
-    const int32_t top = Truncate<int32_t>(row - kMarkReach + 1.0F) - kPressReach;
-    const int32_t bottom = Truncate<int32_t>(row + kMarkReach + 1.0F) + kPressReach;
+    const auto top = Truncate<int32_t>(row - kMarkReach + 1.0F) - kPressReach;
+    const auto bottom = Truncate<int32_t>(row + kMarkReach + 1.0F) + kPressReach;
     if (point.y >= top && point.y < bottom) return i;
   }
   return kNone;
@@ -106,7 +106,7 @@ bool CurveGraph::DrawLine(const Point& from, const Point& to) {
   for (int32_t x = first; x <= last; ++x) {
     const double exact =
         across == 0.0 ? to.y : from.y + (static_cast<double>(x) - from.x) * (down / across);
-    const int32_t row = Truncate<int32_t>(std::floor(exact + 0.5));
+    const auto row = Truncate<int32_t>(std::floor(exact + 0.5));
     if (row < 0 || row >= height) continue;
     const float value = ValueAt(row, height);
     changed = changed || curve->samples[x] != value;

@@ -96,8 +96,8 @@ void CurveGraph::PaintPoints(const PaintArea& area, int32_t shownOpacity,
                              ImageBuffer& buffer) const {
   const int32_t count = CountPoints(*curve);
   for (int32_t i = 0; i < count; ++i) {
-    const int32_t x = Truncate<int32_t>(curve->pointX[i]);
-    const int32_t y = Truncate<int32_t>(RowOfValue(curve->pointY[i], Height()));
+    const auto x = Truncate<int32_t>(curve->pointX[i]);
+    const auto y = Truncate<int32_t>(RowOfValue(curve->pointY[i], Height()));
     const Rect mark = {-kMarkReach, -kMarkReach, kMarkReach + 1, kMarkReach + 1};
     const Rect place = MovedBy(mark, int64_t{area.bounds.left} + x, int64_t{area.bounds.top} + y);
     SharedPath().SetRoundRect(place, kCornerRadius, true, true, true, true);

@@ -111,7 +111,7 @@ void CurvePresetSource::PaintPreset(int32_t index, ImageBuffer& buffer, const Re
   const double step = static_cast<double>(CurveSampleCount) / width;
   for (int32_t column = first; column < end; ++column) {
     const int32_t position = std::clamp(Truncate<int32_t>(column * step), 0, CurvePositionEnd);
-    const int32_t top = Truncate<int32_t>(RowOfValue(preset.samples[position], height));
+    const auto top = Truncate<int32_t>(RowOfValue(preset.samples[position], height));
     const Rect line = MovedBy(Rect{column, top, column + 1, height}, picture.left, picture.top);
     buffer.FillRect(line, kLine, kOpacity, &clip);
   }
