@@ -81,9 +81,9 @@ TEST(CurveEditor, ARefusedPointIsNotDragged) {
 TEST(CurveEditor, ButtonsEditBetweenUndoAndNote) {
   struct ButtonCase {
     Point place;
-    bool freehand;
-    const char* calls;
-    const char* actions;
+    bool freehand = false;
+    const char* calls = "";
+    const char* actions = "";
   };
   const ButtonCase cases[] = {
       {kSmoothPlace, true, "pgn", "smooth "},

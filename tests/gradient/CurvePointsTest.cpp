@@ -26,8 +26,8 @@ struct InsertCase {
 };
 
 TEST(InsertPoint, KeepsItsDistanceExceptBehindTheLastPoint) {
-  std::vector<float> full;
-  for (int32_t i = 0; i < 25; ++i) full.push_back(static_cast<float>(8 * i));
+  std::vector<float> full(25);
+  for (size_t i = 0; i < 25; ++i) full[i] = static_cast<float>(8 * i);
   const InsertCase cases[] = {
       {"empty", {}, 50, 0},
       {"in front", {50, 100}, 45, 0},

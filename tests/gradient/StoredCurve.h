@@ -2,15 +2,14 @@
 #pragma once
 
 #include <algorithm>
-#include <cstring>
 #include <vector>
 
 #include "gradient/CurvePoints.h"
 
 struct StoredCurve {
-  float front[16];
+  float front[16] = {};
   CurveRecord record;
-  float behind[16];
+  float behind[16] = {};
 
   // Points at these positions, each of another value; behind them lies what was there before.
   explicit StoredCurve(const std::vector<float>& points) {
@@ -32,6 +31,9 @@ struct StoredCurve {
            std::all_of(std::begin(behind), std::end(behind), isGuard);
   }
   bool operator==(const StoredCurve& other) const {
-    return std::memcmp(this, &other, sizeof other) == 0;
+    const CurveRecord& theirs = other.record;
+    return std::ranges::equal(record.samples, theirs.samples) &&
+           std::ranges::equal(record.pointX, theirs.pointX) &&
+           std::ranges::equal(record.pointY, theirs.pointY);
   }
 };
