@@ -16,13 +16,13 @@ ImageBuffer::ImageBuffer(const ImageBuffer& source) {
 }
 
 ImageBuffer::~ImageBuffer() {
-  ImageBuffer::Release();
+  FreePixels();
 }
 
 void ImageBuffer::Allocate(int32_t newWidth, int32_t newHeight, bool alignRows) {
   if (newWidth == width && newHeight == height) return;
   if (newWidth < 1 || newHeight < 1) {
-    Release();
+    FreePixels();
     return;
   }
   const int64_t rowPixels = alignRows ? (int64_t{newWidth} + 3) / 4 * 4 : newWidth;
@@ -31,7 +31,7 @@ void ImageBuffer::Allocate(int32_t newWidth, int32_t newHeight, bool alignRows) 
   }
   auto* memory = new (std::nothrow) uint8_t[static_cast<size_t>(rowPixels * 4 * newHeight)]();
   if (memory == nullptr) throw App::ExceptionInfo{App::kOutOfMemory, nullptr};
-  Release();
+  FreePixels();
   pixels = memory;
   width = newWidth;
   height = newHeight;
@@ -43,6 +43,10 @@ void ImageBuffer::EnsureSize(int32_t wantedWidth, int32_t wantedHeight) {
 }
 
 void ImageBuffer::Release() {
+  FreePixels();
+}
+
+void ImageBuffer::FreePixels() {
   delete[] pixels;
   pixels = nullptr;
   width = 0;

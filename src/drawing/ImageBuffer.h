@@ -101,4 +101,7 @@ class ImageBuffer {
   uint8_t* pixels = nullptr;
   float scale = 1.0F;
   bool scaleAware = false;
+
+ private:
+  void FreePixels();
 };
