@@ -1,6 +1,9 @@
 // One event's surface: suites, references and state, taken in order and let go in reverse.
 #include "host/PluginGui_AE_Impl.h"
 
+#include <cstddef>
+#include <new>
+
 #include "AE_EffectSuites.h"
 #include "host/DRAWBOT_Exception.h"
 #include "host/PluginGui_DrawUtils.h"
@@ -52,9 +55,11 @@ void PluginGui_AE_Impl::RequestDrag() {
 }
 
 PluginGui_DrawUtilsApi* PluginGui_AE_Impl::GetDrawUtils() {
-  // Never destroyed, so that nothing depends on the order in which a process ends.
-  static PluginGui_DrawUtils& drawUtils = *new PluginGui_DrawUtils;
-  return &drawUtils;
+  // Never destroyed, so that nothing depends on the order in which a process ends; and not on the
+  // heap, where nobody would give it back when the library goes.
+  alignas(PluginGui_DrawUtils) static std::byte room[sizeof(PluginGui_DrawUtils)];
+  static auto* const drawUtils = new (room) PluginGui_DrawUtils;
+  return drawUtils;
 }
 
 void PluginGui_AE_Impl::BeginDraw() {
