@@ -40,7 +40,7 @@ struct Decoder {
 struct OpenFile {
   XFile& file;
 
-  OpenFile(XFile& opened, const FileSpec& spec) : file(opened) { file.Open(spec); }
+  OpenFile(XFile& opened, const FileSpec& source) : file(opened) { file.Open(source); }
   OpenFile(const OpenFile&) = delete;
   OpenFile& operator=(const OpenFile&) = delete;
   ~OpenFile() { file.Close(); }
@@ -160,10 +160,10 @@ std::unique_ptr<png_bytep[]> RowTable(ImageBuffer& image) {
 
 }  // namespace
 
-void PngFile::ReadFile(const FileSpec& spec, ImageBuffer& image) {
+void PngFile::ReadFile(const FileSpec& source, ImageBuffer& image) {
   lastError = {};
   lastWarning = {};
-  const OpenFile open(*this, spec);
+  const OpenFile open(*this, source);
   CheckSignature(*this);
 
   Decoder decoder;
@@ -171,7 +171,7 @@ void PngFile::ReadFile(const FileSpec& spec, ImageBuffer& image) {
   Header header;
   InLibpng(ReadHeader, decoder, header);
   if (!CanRead(header)) ThrowWrongFormat();
-  if (!HasRoomFor(decoder, header, spec.memorySize)) {
+  if (!HasRoomFor(decoder, header, source.memorySize)) {
     KeepText(lastError, "Not enough image data");
     ThrowFatalError();
   }

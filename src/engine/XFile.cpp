@@ -4,10 +4,10 @@
 #include <algorithm>
 #include <cstring>
 
-void XFile::Open(const FileSpec& spec) {
-  name = spec.name;
-  memoryData = spec.memoryData;
-  memorySize = spec.memorySize;
+void XFile::Open(const FileSpec& source) {
+  name = source.name;
+  memoryData = source.memoryData;
+  memorySize = source.memorySize;
   readPosition = 0;
 }
 

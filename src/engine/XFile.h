@@ -14,7 +14,7 @@ class XFile {
   virtual ~XFile() = default;
 
   // Starts at the front. The bytes are borrowed until Close.
-  void Open(const FileSpec& spec);
+  void Open(const FileSpec& source);
 
   // Copies up to `count` bytes to `buffer` and moves on behind them.
   //
