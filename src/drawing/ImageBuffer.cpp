@@ -8,6 +8,7 @@
 
 #include "drawing/Compositing.h"
 #include "engine/ExceptionInfo.h"
+#include "platform/SaturatedInt.h"
 #include "platform/Truncate.h"
 
 ImageBuffer::ImageBuffer(const ImageBuffer& source) {
@@ -78,14 +79,10 @@ void ImageBuffer::FillRect(const Rect& rect, ColorBGRA color, int32_t opacity, c
 void ImageBuffer::DrawFrame(const Rect& rect, ColorBGRA color, int32_t thickness, int32_t opacity,
                             const Rect* clip) {
   if (IsEmpty(rect)) return;
-  const auto narrow = [](int64_t edge) {
-    using Limits = std::numeric_limits<int32_t>;
-    return static_cast<int32_t>(std::clamp<int64_t>(edge, Limits::min(), Limits::max()));
-  };
-  const int32_t innerLeft = narrow(int64_t{rect.left} + thickness);
-  const int32_t innerTop = narrow(int64_t{rect.top} + thickness);
-  const int32_t innerRight = narrow(int64_t{rect.right} - thickness);
-  const int32_t innerBottom = narrow(int64_t{rect.bottom} - thickness);
+  const int32_t innerLeft = SaturatedInt(int64_t{rect.left} + thickness);
+  const int32_t innerTop = SaturatedInt(int64_t{rect.top} + thickness);
+  const int32_t innerRight = SaturatedInt(int64_t{rect.right} - thickness);
+  const int32_t innerBottom = SaturatedInt(int64_t{rect.bottom} - thickness);
   FillRect({rect.left, rect.top, rect.right, innerTop}, color, opacity, clip);
   FillRect({rect.left, innerTop, innerLeft, innerBottom}, color, opacity, clip);
   FillRect({innerRight, innerTop, rect.right, innerBottom}, color, opacity, clip);

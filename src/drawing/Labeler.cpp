@@ -3,12 +3,12 @@
 
 #include <algorithm>
 #include <cmath>
-#include <limits>
 #include <string_view>
 
 #include "drawing/ClippedPlacement.h"
 #include "drawing/CoveragePaint.h"
 #include "engine/ExceptionInfo.h"
+#include "platform/SaturatedInt.h"
 #include "platform/Truncate.h"
 
 namespace {
@@ -33,11 +33,6 @@ std::string_view Bytes(const char* text) {
 
 int32_t Code(char byte) {
   return static_cast<unsigned char>(byte);
-}
-
-int32_t Saturate(int64_t value) {
-  using Limits = std::numeric_limits<int32_t>;
-  return static_cast<int32_t>(std::clamp<int64_t>(value, Limits::min(), Limits::max()));
 }
 
 // What two columns of the strip have in common, and whether both have ink in 2 rows or more.
@@ -96,8 +91,8 @@ void DrawGlyph(ImageBuffer& buffer, const Font& font, int32_t code, int64_t x, i
   if (!Font::HasGlyph(code)) return;
   const int32_t first = font.FirstColumn(code);
   const int32_t width = font.EndColumn(code) - first;
-  const auto place = ClipPlacement({0, 0, width, font.Rows()}, width, font.Rows(), Saturate(x), y,
-                                   buffer.ClippedBounds(style.clip));
+  const auto place = ClipPlacement({0, 0, width, font.Rows()}, width, font.Rows(), SaturatedInt(x),
+                                   y, buffer.ClippedBounds(style.clip));
   if (!place) return;
   const int32_t opacity = std::clamp(style.opacity, 0, 256);
   const Rect& part = place->source;
@@ -171,7 +166,7 @@ int32_t Labeler::MeasureString(const char* text, int32_t tracking) const {
     sum += GetCharWidth(code);
     previous = code;
   }
-  if (!scaled) return Saturate(sum);
+  if (!scaled) return SaturatedInt(sum);
   return Truncate<int32_t>(static_cast<float>(sum) / fontScale + 0.5F);
 }
 
@@ -220,7 +215,7 @@ void Labeler::DrawStringInRect(ImageBuffer& buffer, const char* text, const Rect
   if (alignment == TextAlignment::kCentre) {
     x += (int64_t{rect.right} - rect.left - MeasureString(text, style.tracking)) / 2;
   }
-  DrawString(buffer, text, Saturate(x), Saturate(y), alignment, style);
+  DrawString(buffer, text, SaturatedInt(x), SaturatedInt(y), alignment, style);
 }
 
 const Font& Labeler::Selected() const {

@@ -61,10 +61,10 @@ constexpr std::array<Shape, 6> kShapes = {Constant, LinearFall, RiseAndFall,
                                           Bump,     ShortFall,  HoldThenFall};
 
 Rect PictureIn(const Rect& row) {
-  return {Narrowed(int64_t{row.left} + kPictureInset.left),
-          Narrowed(int64_t{row.top} + kPictureInset.top),
-          Narrowed(int64_t{row.right} + kPictureInset.right),
-          Narrowed(int64_t{row.bottom} + kPictureInset.bottom)};
+  return {SaturatedInt(int64_t{row.left} + kPictureInset.left),
+          SaturatedInt(int64_t{row.top} + kPictureInset.top),
+          SaturatedInt(int64_t{row.right} + kPictureInset.right),
+          SaturatedInt(int64_t{row.bottom} + kPictureInset.bottom)};
 }
 
 void DrawRect(ImageBuffer& buffer, const Rect& rect, ColorBGRA color, const Rect& clip,
@@ -102,12 +102,12 @@ void CurvePresetSource::PaintPreset(int32_t index, ImageBuffer& buffer, const Re
                                     const Rect& clip, bool highlighted) const {
   const CurveRecord& preset = GetPreset(index);
   const Rect picture = PictureIn(rect);
-  const int32_t width = Narrowed(int64_t{picture.right} - picture.left);
-  const int32_t height = Narrowed(int64_t{picture.bottom} - picture.top);
+  const int32_t width = SaturatedInt(int64_t{picture.right} - picture.left);
+  const int32_t height = SaturatedInt(int64_t{picture.bottom} - picture.top);
   DrawRect(buffer, picture, kPlate, clip, kFilled);
   // Columns that the clip cuts off are not gone through: a row may be as wide as there are numbers.
-  const int32_t first = Narrowed(std::max<int64_t>(int64_t{clip.left} - picture.left, 0));
-  const int32_t end = Narrowed(std::min<int64_t>(int64_t{clip.right} - picture.left, width));
+  const int32_t first = SaturatedInt(std::max<int64_t>(int64_t{clip.left} - picture.left, 0));
+  const int32_t end = SaturatedInt(std::min<int64_t>(int64_t{clip.right} - picture.left, width));
   const double step = static_cast<double>(CurveSampleCount) / width;
   for (int32_t column = first; column < end; ++column) {
     const int32_t position = std::clamp(Truncate<int32_t>(column * step), 0, CurvePositionEnd);

@@ -1,10 +1,9 @@
 // The panel on which the user edits a curve from start to end.
 #include "gradient/EvolutionPanel.h"
 
-#include <utility>
-
 #include "gradient/EnabledState.h"
 #include "gradient/GraphPresetPanel.h"
+#include "gradient/PanelChildren.h"
 #include "gradient/PanelIcon.h"
 #include "gradient/RampColor.h"
 #include "toolkit/ControlWatch.h"
@@ -29,20 +28,6 @@ constexpr Rect kPastePlace = {240, 85, 289, 105};
 constexpr Rect kCurveModePlace = {242, 111, 262, 131};
 constexpr Rect kFreehandModePlace = {267, 111, 287, 131};
 
-template <typename Child>
-Child* Add(ControlPane& panel, std::unique_ptr<Child> child) {
-  panel.AddChild(child.get(), true);
-  return child.release();
-}
-
-template <typename Button>
-Button* AddButton(ControlPane& panel, const Rect& place, int32_t id, const char* text) {
-  auto button = std::make_unique<Button>(&panel, place, nullptr, false, nullptr);
-  button->SetId(id);
-  button->SetLabels(text, text);
-  return Add(panel, std::move(button));
-}
-
 // name   of the icons' files, before what tells the state
 QvIconButton* AddModeButton(ControlPane& panel, const Rect& place, int32_t id,
                             const std::string& name) {
@@ -61,12 +46,12 @@ EvolutionPanel::EvolutionPanel(int32_t parameterIndex, const std::string& newTit
       TitleString(newTitle),
       presetSource(std::make_unique<CurvePresetSource>(kGraphPlace.bottom - kGraphPlace.top)) {
   SetBackground(Gray(36));
-  undoRedoPanel = Add(*this, std::make_unique<UndoRedoPanel>(
-                                 this, Rect{kWidth - 70, 0, kWidth - 4, 28}, this, true));
-  Add(*this, std::make_unique<GraphPresetPanel>(this, Rect{kWidth - 78, 30, kWidth, 75},
-                                                presetSource.get(), this));
+  undoRedoPanel = AddTo(*this, std::make_unique<UndoRedoPanel>(
+                                   this, Rect{kWidth - 70, 0, kWidth - 4, 28}, this, true));
+  AddTo(*this, std::make_unique<GraphPresetPanel>(this, Rect{kWidth - 78, 30, kWidth, 75},
+                                                  presetSource.get(), this));
   AddButtons();
-  graph = Add(*this, std::make_unique<CurveGraph>(this, kGraphPlace, this));
+  graph = AddTo(*this, std::make_unique<CurveGraph>(this, kGraphPlace, this));
   graph->AddListener([this](CurveGraph&, const char*) { Call(callbacks.curveChanged); });
   MarkMode();
 }

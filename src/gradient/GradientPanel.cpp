@@ -2,12 +2,12 @@
 #include "gradient/GradientPanel.h"
 
 #include <cassert>
-#include <utility>
 
 #include "gradient/EnabledState.h"
 #include "gradient/GradientRamp.h"
 #include "gradient/GradientStops.h"
 #include "gradient/GraphPresetPanel.h"
+#include "gradient/PanelChildren.h"
 #include "gradient/PanelIcon.h"
 #include "toolkit/ControlWatch.h"
 #include "toolkit/PaintArea.h"
@@ -26,20 +26,6 @@ constexpr Rect kRandomizePlace = {63, 69, 133, 89};
 constexpr Rect kFlipPlace = {139, 69, 173, 89};
 constexpr Rect kCopyPlace = {240, 59, 289, 79};
 constexpr Rect kPastePlace = {240, 85, 289, 105};
-
-template <typename Child>
-Child* Add(ControlPane& panel, std::unique_ptr<Child> child) {
-  panel.AddChild(child.get(), true);
-  return child.release();
-}
-
-template <typename Button>
-Button* AddButton(ControlPane& panel, const Rect& place, int32_t id, const char* text) {
-  auto button = std::make_unique<Button>(&panel, place, nullptr, false, nullptr);
-  button->SetId(id);
-  button->SetLabels(text, text);
-  return Add(panel, std::move(button));
-}
 
 }  // namespace
 
@@ -60,10 +46,10 @@ GradientPanel::~GradientPanel() {
 void GradientPanel::AddChildren(const Options& options) {
   const int32_t right = GetLocalBounds().right;
   undoRedoPanel =
-      Add(*this, std::make_unique<UndoRedoPanel>(this, Rect{right - 70, 0, right - 4, 28}, this,
-                                                 options.undoRedoButtons));
-  Add(*this, std::make_unique<GraphPresetPanel>(this, Rect{right - 78, 30, right, 75},
-                                                presetSource.get(), this));
+      AddTo(*this, std::make_unique<UndoRedoPanel>(this, Rect{right - 70, 0, right - 4, 28}, this,
+                                                   options.undoRedoButtons));
+  AddTo(*this, std::make_unique<GraphPresetPanel>(this, Rect{right - 78, 30, right, 75},
+                                                  presetSource.get(), this));
   AddButton<QvButton>(*this, kCopyPlace, kCopyId, "Copy");
   pasteButton = AddButton<QvButton>(*this, kPastePlace, kPasteId, "Paste");
   pasteButton->SetEnabled(false);
@@ -71,8 +57,8 @@ void GradientPanel::AddChildren(const Options& options) {
   auto* const flip = AddButton<QvIconButtonWithBG>(*this, kFlipPlace, kFlipId, "<>");
   flip->SetIcon(kButtonNormal, LoadPanelIcon("Flip_Normal.png").release());
   flip->SetIcon(kButtonOver, LoadPanelIcon("Flip_Over.png").release());
-  strip = Add(*this, std::make_unique<GradientStrip>(this, kStripPlace, kBarHeight));
-  result = Add(*this, std::make_unique<GradientResult>(this, Rect{}));
+  strip = AddTo(*this, std::make_unique<GradientStrip>(this, kStripPlace, kBarHeight));
+  result = AddTo(*this, std::make_unique<GradientResult>(this, Rect{}));
 }
 
 void GradientPanel::SetState(int32_t newState) {

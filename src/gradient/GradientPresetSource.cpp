@@ -48,10 +48,10 @@ constexpr int32_t kOpacity = 255;
 constexpr double kLineWidth = 1.0;
 
 Rect PictureIn(const Rect& row) {
-  return {Narrowed(int64_t{row.left} + kPictureInset.left),
-          Narrowed(int64_t{row.top} + kPictureInset.top),
-          Narrowed(int64_t{row.right} + kPictureInset.right),
-          Narrowed(int64_t{row.bottom} + kPictureInset.bottom)};
+  return {SaturatedInt(int64_t{row.left} + kPictureInset.left),
+          SaturatedInt(int64_t{row.top} + kPictureInset.top),
+          SaturatedInt(int64_t{row.right} + kPictureInset.right),
+          SaturatedInt(int64_t{row.bottom} + kPictureInset.bottom)};
 }
 
 void DrawFrame(ImageBuffer& buffer, const Rect& rect, ColorBGRA color, const Rect& clip) {
@@ -88,7 +88,7 @@ void GradientPresetSource::PaintPreset(int32_t index, ImageBuffer& buffer, const
                                        const Rect& clip, bool highlighted) const {
   const GradientView preset = GetPreset(index);
   const Rect picture = PictureIn(rect);
-  const int32_t width = Narrowed(int64_t{picture.right} - picture.left);
+  const int32_t width = SaturatedInt(int64_t{picture.right} - picture.left);
   const double step = static_cast<double>(GradientRampSize) / width;
   double place = 0.0;
   for (int32_t column = 0; column < width; ++column) {

@@ -27,7 +27,7 @@ QvPresetDropDown* QvMenuControl::GetDropDown() const {
 void QvMenuControl::RebuildItems(const std::vector<std::string>* newLabels) {
   MenuControl::RebuildItems(newLabels);
   if (!dropDown) return;
-  bounds.right = Narrowed(int64_t{bounds.left} + dropDown->GetLocalBounds().right);
+  bounds.right = SaturatedInt(int64_t{bounds.left} + dropDown->GetLocalBounds().right);
 }
 
 void QvMenuControl::OnMouseUp(WindowContext* context, const Point& point) {

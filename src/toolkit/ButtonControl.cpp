@@ -19,8 +19,8 @@ constexpr int32_t kKernThreshold = 128;
 constexpr int32_t kKernLimit = 3;
 
 Rect ShrunkBy(const Rect& rect, int64_t inset) {
-  return {Narrowed(rect.left + inset), Narrowed(rect.top + inset), Narrowed(rect.right - inset),
-          Narrowed(rect.bottom - inset)};
+  return {SaturatedInt(rect.left + inset), SaturatedInt(rect.top + inset),
+          SaturatedInt(rect.right - inset), SaturatedInt(rect.bottom - inset)};
 }
 
 }  // namespace
@@ -129,7 +129,7 @@ void ButtonControl::Paint(const Rect& rect, ImageBuffer& buffer, const Point& po
   Shape shape{colors.fill, colors.frame, frameThickness,
               colors.fill.alpha != 0 && image == nullptr};
   if (HasFocus()) {
-    shape.thickness = Narrowed(int64_t{frameThickness} * 2);
+    shape.thickness = SaturatedInt(int64_t{frameThickness} * 2);
     shape.frame = stateColors[kButtonFocused].frame;
   }
   if (image != nullptr) {
@@ -146,7 +146,7 @@ bool ButtonControl::PaintStrip(const PaintArea& area, ImageBuffer& buffer) const
   const int32_t first = pressed ? half : 0;
   const Rect part = {first, 0, first + half, stripImage->Height()};
   const int64_t buttonWidth = int64_t{area.bounds.right} - area.bounds.left;
-  const int32_t x = Narrowed(area.bounds.left + (buttonWidth - half) / 2);
+  const int32_t x = SaturatedInt(area.bounds.left + (buttonWidth - half) / 2);
   stripImage->BlendTo(buffer, part, x, area.bounds.top, ImageOpacity(), &area.clip, true);
   return true;
 }
@@ -190,8 +190,8 @@ void ButtonControl::DrawLabel(const Rect& rect, const Rect& clip, const ColorBGR
   const char* label = !set.empty() ? set.c_str() : pressed ? "On" : "Off";
   Labeler& labeler = SharedLabeler();
   labeler.SetFont(font != nullptr ? font : &FontDefault(), kKernThreshold, kKernLimit, true);
-  const Rect inner = {Narrowed(int64_t{rect.left} + labelInsetLeft), rect.top,
-                      Narrowed(int64_t{rect.right} - labelInsetRight), rect.bottom};
+  const Rect inner = {SaturatedInt(int64_t{rect.left} + labelInsetLeft), rect.top,
+                      SaturatedInt(int64_t{rect.right} - labelInsetRight), rect.bottom};
   TextStyle style;
   style.color = color;
   style.background = ThemeColors::Black;

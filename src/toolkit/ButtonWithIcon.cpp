@@ -62,6 +62,6 @@ void ButtonWithIcon::PaintIcon(const PaintArea& area, ImageBuffer& buffer) const
   // Across, the halves are cut off one by one; down, their difference is.
   const int64_t x = place.left + (int64_t{place.right} - place.left) / 2 - width / 2;
   const int64_t y = place.top + (int64_t{place.bottom} - place.top - height) / 2;
-  icon->BlendTo(buffer, {0, 0, width, height}, Narrowed(x), Narrowed(y),
+  icon->BlendTo(buffer, {0, 0, width, height}, SaturatedInt(x), SaturatedInt(y),
                 IsEnabled() ? kOpaque : kDisabledIcon, &area.clip, false);
 }

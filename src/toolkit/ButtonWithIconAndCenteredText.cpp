@@ -24,11 +24,11 @@ void ButtonWithIconAndCenteredText::Paint(const Rect& rect, ImageBuffer& buffer,
   if (GetCurrentIcon() != nullptr) {
     // The icon's cell is as wide as the button is high.
     Rect cell = area.bounds;
-    cell.left = Narrowed(int64_t{cell.left} + kPadX);
-    cell.right = Narrowed(std::min<int64_t>(cell.left + HeightOf(cell), cell.right));
+    cell.left = SaturatedInt(int64_t{cell.left} + kPadX);
+    cell.right = SaturatedInt(std::min<int64_t>(cell.left + HeightOf(cell), cell.right));
     PaintIcon({cell, Intersection(area.clip, area.bounds)}, buffer);
     label.left = cell.right;
-    label.right = Narrowed(int64_t{label.right} - kPadX);
+    label.right = SaturatedInt(int64_t{label.right} - kPadX);
   }
   const Rect clip = Intersection(area.clip, label);
   if (!IsEmpty(clip)) DrawLabel(label, clip, PlateTextColor(pressed), buffer, labelAlignment);

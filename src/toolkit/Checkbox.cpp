@@ -32,9 +32,9 @@ void Checkbox::Paint(const Rect& rect, ImageBuffer& buffer, const Point& positio
   const PaintArea area = AreaToPaint(rect, position);
   const PaintTarget target = {buffer, area.clip, IsEnabled() ? 256 : kDisabledOpacity};
   const int64_t side = std::min({int64_t{kBoxSide}, WidthOf(area.bounds), HeightOf(area.bounds)});
-  Rect box = CentredSquare(area.bounds, Narrowed(side));
+  Rect box = CentredSquare(area.bounds, SaturatedInt(side));
   box.left = area.bounds.left;
-  box.right = Narrowed(box.left + side);
+  box.right = SaturatedInt(box.left + side);
 
   ColorBGRA fill = pressed ? StockColors::Accent : ThemeColors::MenuFill;
   if (ShowsHover()) fill = pressed ? StockColors::AccentOver : ThemeColors::MenuFrame;
@@ -45,8 +45,8 @@ void Checkbox::Paint(const Rect& rect, ImageBuffer& buffer, const Point& positio
   PaintFocus({box, area.clip}, buffer);
 
   const std::string& label = pressed ? onLabel : offLabel;
-  const Rect place = {Narrowed(int64_t{box.right} + kLabelGap), area.bounds.top, area.bounds.right,
-                      area.bounds.bottom};
+  const Rect place = {SaturatedInt(int64_t{box.right} + kLabelGap), area.bounds.top,
+                      area.bounds.right, area.bounds.bottom};
   DrawCaption(target, label, place, TextAlignment::kLeft,
               ShowsHover() ? StockColors::TextOver : StockColors::Text, font);
 }

@@ -26,7 +26,7 @@ void CloseButton::SetEnabled(bool enabled) {
 void CloseButton::Paint(const Rect& rect, ImageBuffer& buffer, const Point& position) {
   const PaintArea area = AreaToPaint(rect, position);
   const PaintTarget target = {buffer, area.clip, IsEnabled() ? 256 : kDisabledOpacity};
-  const int32_t sideLength = Narrowed(std::min(WidthOf(area.bounds), HeightOf(area.bounds)));
+  const int32_t sideLength = SaturatedInt(std::min(WidthOf(area.bounds), HeightOf(area.bounds)));
   const Rect disc = CentredSquare(area.bounds, sideLength);
   const double side = sideLength;
   if (IsEnabled() && (pressed || ShowsHover())) {

@@ -156,7 +156,7 @@ void ComboPopupMenu::SetEnabled(bool enabled) {
 void ComboPopupMenu::Paint(const Rect& rect, ImageBuffer& buffer, const Point& position) {
   const PaintArea area = AreaInBuffer(GetLocalBounds(), rect, position);
   Rect plate = area.bounds;
-  plate.left = std::max(plate.left, Narrowed(int64_t{plate.right} - kArrowWidth));
+  plate.left = std::max(plate.left, SaturatedInt(int64_t{plate.right} - kArrowWidth));
   const PlateLook look{IsEnabled(), IsMouseOver() && !pressed, pressed};
   DrawPlate(buffer, plate, PlateColor(look, kDisabledPlate), area.clip);
   const ColorBGRA arrow = IsEnabled() ? PlateTextColor(pressed) : ThemeColors::Gray102;

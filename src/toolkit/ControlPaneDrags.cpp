@@ -33,9 +33,9 @@ void ResizeSpan(int32_t* nearEdge, int32_t* farEdge, bool movesNear, bool movesF
   const int64_t length =
       std::max<int64_t>(shortest, std::min<int64_t>(longest, farMoved - nearMoved));
   if (movesNear) {
-    *nearEdge = Narrowed(*farEdge - length);
+    *nearEdge = SaturatedInt(*farEdge - length);
   } else {
-    *farEdge = Narrowed(*nearEdge + length);
+    *farEdge = SaturatedInt(*nearEdge + length);
   }
 }
 
@@ -85,8 +85,8 @@ bool ControlPane::FindResizeZone(const Point& point, int32_t inset, int32_t* zon
   const Rect area = GetLocalBounds();
   const int32_t innerLeft = inset;
   const int32_t innerTop = inset;
-  const int32_t innerRight = Narrowed(int64_t{area.right} - inset);
-  const int32_t innerBottom = Narrowed(int64_t{area.bottom} - inset);
+  const int32_t innerRight = SaturatedInt(int64_t{area.right} - inset);
+  const int32_t innerBottom = SaturatedInt(int64_t{area.bottom} - inset);
   const std::array<Rect, 8> bands = {{
       {0, innerTop, innerLeft, innerBottom},
       {innerLeft, 0, innerRight, innerTop},

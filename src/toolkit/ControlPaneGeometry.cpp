@@ -15,7 +15,7 @@ void ControlPane::MoveToPoint(const Point& point) {
 }
 
 void ControlPane::MoveTo(int32_t x, int32_t y) {
-  MoveBy(Narrowed(int64_t{x} - bounds.left), Narrowed(int64_t{y} - bounds.top));
+  MoveBy(SaturatedInt(int64_t{x} - bounds.left), SaturatedInt(int64_t{y} - bounds.top));
 }
 
 void ControlPane::MoveBy(int32_t dx, int32_t dy) {

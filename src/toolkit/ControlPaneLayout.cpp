@@ -102,8 +102,8 @@ void ControlPane::ApplyAnchors() {
       Anchored(leftAnchor, rightAnchor, {bounds.left, bounds.right}, {area.left, area.right});
   const Span down =
       Anchored(topAnchor, bottomAnchor, {bounds.top, bounds.bottom}, {area.top, area.bottom});
-  const Rect anchored = {Narrowed(across.nearEdge), Narrowed(down.nearEdge),
-                         Narrowed(across.farEdge), Narrowed(down.farEdge)};
+  const Rect anchored = {SaturatedInt(across.nearEdge), SaturatedInt(down.nearEdge),
+                         SaturatedInt(across.farEdge), SaturatedInt(down.farEdge)};
   if (anchored == bounds) return;
   SetBounds(anchored);
   LayoutChildren();

@@ -21,8 +21,8 @@ int32_t LogicalSide(const ImageBuffer& buffer, int32_t physicalSide) {
 
 Rect Bounded(const Rect& rect) {
   return {rect.left, rect.top,
-          Narrowed(std::min<int64_t>(rect.right, int64_t{rect.left} + kLargestSide)),
-          Narrowed(std::min<int64_t>(rect.bottom, int64_t{rect.top} + kLargestSide))};
+          SaturatedInt(std::min<int64_t>(rect.right, int64_t{rect.left} + kLargestSide)),
+          SaturatedInt(std::min<int64_t>(rect.bottom, int64_t{rect.top} + kLargestSide))};
 }
 
 }  // namespace
@@ -56,9 +56,9 @@ void ControlPane::Redraw(const Rect& rect) {
   const ControlWatch self(this);
   for (int64_t top = area.top; top < area.bottom; top += height) {
     for (int64_t left = area.left; left < area.right; left += width) {
-      const Rect tile = {Narrowed(left), Narrowed(top),
-                         Narrowed(std::min<int64_t>(left + width, area.right)),
-                         Narrowed(std::min<int64_t>(top + height, area.bottom))};
+      const Rect tile = {SaturatedInt(left), SaturatedInt(top),
+                         SaturatedInt(std::min<int64_t>(left + width, area.right)),
+                         SaturatedInt(std::min<int64_t>(top + height, area.bottom))};
       RedrawTile(tile);
       if (!self) return;
     }

@@ -21,13 +21,13 @@ void Divider::Paint(const Rect& rect, ImageBuffer& buffer, const Point& position
   Rect dark = area.bounds;
   Rect light = area.bounds;
   if (lies) {
-    dark.top = Narrowed(area.bounds.top + HeightOf(area.bounds) / 2 - 1);
-    dark.bottom = light.top = Narrowed(int64_t{dark.top} + 1);
-    light.bottom = Narrowed(int64_t{light.top} + 1);
+    dark.top = SaturatedInt(area.bounds.top + HeightOf(area.bounds) / 2 - 1);
+    dark.bottom = light.top = SaturatedInt(int64_t{dark.top} + 1);
+    light.bottom = SaturatedInt(int64_t{light.top} + 1);
   } else {
-    dark.left = Narrowed(area.bounds.left + WidthOf(area.bounds) / 2 - 1);
-    dark.right = light.left = Narrowed(int64_t{dark.left} + 1);
-    light.right = Narrowed(int64_t{light.left} + 1);
+    dark.left = SaturatedInt(area.bounds.left + WidthOf(area.bounds) / 2 - 1);
+    dark.right = light.left = SaturatedInt(int64_t{dark.left} + 1);
+    light.right = SaturatedInt(int64_t{light.left} + 1);
   }
   buffer.FillRect(dark, ThemeColors::MenuFill, strength, &area.clip);
   buffer.FillRect(light, ThemeColors::Gray76, strength, &area.clip);

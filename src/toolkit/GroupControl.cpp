@@ -80,7 +80,7 @@ void GroupControl::PaintCell(const PaintTarget& target, const Rect& place, int32
   if (active) fill = index == pressedCell || over ? StockColors::AccentOver : StockColors::Accent;
   target.buffer.FillRect(place, fill, target.opacity, &target.clip);
   if (index > 0) {
-    const Rect line = {place.left, place.top, Narrowed(int64_t{place.left} + 1), place.bottom};
+    const Rect line = {place.left, place.top, SaturatedInt(int64_t{place.left} + 1), place.bottom};
     target.buffer.FillRect(line, ThemeColors::Gray102, target.opacity, &target.clip);
   }
   PaintStrip(target, place, index);
@@ -97,16 +97,17 @@ void GroupControl::PaintStrip(const PaintTarget& target, const Rect& place, int3
   const int64_t x = place.left + (WidthOf(place) - half) / 2;
   const int64_t y = place.top + (HeightOf(place) - strip->Height()) / 2;
   const Rect clip = Intersection(target.clip, place);
-  strip->BlendTo(target.buffer, {first, 0, first + half, strip->Height()}, Narrowed(x), Narrowed(y),
-                 IsEnabled() ? target.opacity : kDisabledStripOpacity, &clip, false);
+  strip->BlendTo(target.buffer, {first, 0, first + half, strip->Height()}, SaturatedInt(x),
+                 SaturatedInt(y), IsEnabled() ? target.opacity : kDisabledStripOpacity, &clip,
+                 false);
 }
 
 Rect GroupControl::GetCellRect(int32_t index) const {
   if (index < 0 || index >= GetCellCount()) return {};
   const Rect local = GetLocalBounds();
   const int64_t count = GetCellCount();
-  return {Narrowed(int64_t{local.right} * index / count), 0,
-          Narrowed(int64_t{local.right} * (index + 1) / count), local.bottom};
+  return {SaturatedInt(int64_t{local.right} * index / count), 0,
+          SaturatedInt(int64_t{local.right} * (index + 1) / count), local.bottom};
 }
 
 int32_t GroupControl::FindCell(const Point& point) const {

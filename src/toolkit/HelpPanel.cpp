@@ -16,8 +16,8 @@ constexpr double kCornerRadius = 3.0;
 constexpr ColorBGRA kBack(0xFF262626);
 
 Rect InsetBy(const Rect& rect, int32_t inset) {
-  return {Narrowed(int64_t{rect.left} + inset), Narrowed(int64_t{rect.top} + inset),
-          Narrowed(int64_t{rect.right} - inset), Narrowed(int64_t{rect.bottom} - inset)};
+  return {SaturatedInt(int64_t{rect.left} + inset), SaturatedInt(int64_t{rect.top} + inset),
+          SaturatedInt(int64_t{rect.right} - inset), SaturatedInt(int64_t{rect.bottom} - inset)};
 }
 
 }  // namespace
@@ -65,7 +65,7 @@ void HelpPanel::Paint(const Rect& rect, ImageBuffer& buffer, const Point& positi
     const int32_t height = SharedLabeler().GetLineHeight();
     SharedLabeler().DrawString(buffer, GetTitle().c_str(), room.left, room.top,
                                TextAlignment::kLeft, style);
-    room.top = Narrowed(int64_t{room.top} + height + kHeadingGap);
+    room.top = SaturatedInt(int64_t{room.top} + height + kHeadingGap);
   }
   if (IsEnabled()) style.color = ThemeColors::Gray179;
   DrawTextBlock(buffer, text, room, FontDefault(), TextAlignment::kLeft, style);

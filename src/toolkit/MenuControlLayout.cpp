@@ -29,17 +29,17 @@ void MenuControl::RebuildItems(const std::vector<std::string>* newLabels) {
     auto item = std::make_unique<MenuItem>();
     item->font = GetItemCount() == selectedIndex ? selectedFont : font;
     item->label = label;
-    item->textWidth = Narrowed(int64_t{labeler.MeasureString(label.c_str(), 0)} + kTextSlack);
+    item->textWidth = SaturatedInt(int64_t{labeler.MeasureString(label.c_str(), 0)} + kTextSlack);
     item->height = lineHeight + 2 * item->padY;
-    item->top = Narrowed(top);
+    item->top = SaturatedInt(top);
     top += item->height;
     contentWidth = std::max<int64_t>(contentWidth, item->textWidth + 2 * int64_t{item->padX});
     items.push_back(std::move(item));
   }
 
   contentWidth = std::clamp<int64_t>(contentWidth, minContentWidth, maxContentWidth);
-  bounds.right = Narrowed(bounds.left + 2 * int64_t{marginX} + contentWidth);
-  bounds.bottom = Narrowed(bounds.top + 2 * int64_t{marginY} + top);
+  bounds.right = SaturatedInt(bounds.left + 2 * int64_t{marginX} + contentWidth);
+  bounds.bottom = SaturatedInt(bounds.top + 2 * int64_t{marginY} + top);
   SyncFromParameters();
 }
 
@@ -60,7 +60,8 @@ Rect MenuControl::GetRowRect(int32_t index) const {
   const MenuItem* const item = GetItem(index);
   if (item == nullptr) return {};
   const int64_t top = int64_t{marginY} + item->top;
-  return {marginX, Narrowed(top), GetLocalBounds().right - marginX, Narrowed(top + item->height)};
+  return {marginX, SaturatedInt(top), GetLocalBounds().right - marginX,
+          SaturatedInt(top + item->height)};
 }
 
 int32_t MenuControl::FindRow(const Point& point) const {

@@ -17,7 +17,7 @@ constexpr const char* kCheckMark = "4";  // in FontSymbols
 
 void PaintSeparator(ImageBuffer& buffer, const Rect& row, const Rect& clip, ColorBGRA color) {
   const int64_t middle = row.top + (int64_t{row.bottom} - row.top) / 2;
-  const Rect line = {row.left, Narrowed(middle - 1), row.right, Narrowed(middle)};
+  const Rect line = {row.left, SaturatedInt(middle - 1), row.right, SaturatedInt(middle)};
   buffer.FillRect(line, color, kOpaque, &clip);
 }
 
@@ -70,7 +70,7 @@ void MenuControl::PaintTextRow(int32_t index, ImageBuffer& buffer, const Rect& r
   TextStyle style;
   style.color = colors.text;
   style.clip = &clip;
-  const int32_t textLeft = Narrowed(int64_t{rect.left} + look.indent);
+  const int32_t textLeft = SaturatedInt(int64_t{rect.left} + look.indent);
   const Rect text = {textLeft, rect.top, rect.right, rect.bottom};
   labeler.SetFont(item->font);
   labeler.DrawStringInRect(buffer, item->label.c_str(), text, TextAlignment::kLeft, style);

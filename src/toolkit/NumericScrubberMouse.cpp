@@ -2,11 +2,11 @@
 #include <memory>
 
 #include "drawing/Labeler.h"
+#include "platform/SaturatedInt.h"
 #include "toolkit/Clock.h"
 #include "toolkit/NumericScrubber.h"
 #include "toolkit/NumericScrubberMouseMoveFilter.h"
 #include "toolkit/PaintArea.h"
-#include "toolkit/SaturatedInt.h"
 #include "toolkit/TopControlPane.h"
 
 namespace {

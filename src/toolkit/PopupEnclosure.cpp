@@ -29,7 +29,7 @@ void PopupEnclosure::PlaceAt(const Rect& anchor) {
   const int64_t x =
       alignLeft ? int64_t{anchor.left} + kFromLeft : int64_t{anchor.right} + kFromRight;
   const int64_t y = int64_t{anchor.bottom} + kFromBottom;
-  SetBounds(MovedTo(bounds, {Narrowed(x), Narrowed(y)}));
+  SetBounds(MovedTo(bounds, {SaturatedInt(x), SaturatedInt(y)}));
 }
 
 void PopupEnclosure::SetAlignLeft(bool newAlignLeft) {

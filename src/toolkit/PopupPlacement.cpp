@@ -12,7 +12,7 @@ using Limits = std::numeric_limits<int32_t>;
 
 // One direction of ShiftedInto: the lower edge first, then the upper one.
 int32_t ShiftedStart(int32_t low, int32_t size, int32_t boundsLow, int32_t boundsHigh) {
-  return Narrowed(std::min(int64_t{std::max(low, boundsLow)}, int64_t{boundsHigh} - size));
+  return SaturatedInt(std::min(int64_t{std::max(low, boundsLow)}, int64_t{boundsHigh} - size));
 }
 
 }  // namespace

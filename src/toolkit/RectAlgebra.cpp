@@ -2,12 +2,6 @@
 #include "toolkit/RectAlgebra.h"
 
 #include <algorithm>
-#include <limits>
-
-int32_t Narrowed(int64_t coordinate) {
-  using Limits = std::numeric_limits<int32_t>;
-  return static_cast<int32_t>(std::clamp<int64_t>(coordinate, Limits::min(), Limits::max()));
-}
 
 Rect UnionOf(const Rect& a, const Rect& b) {
   if (IsEmpty(a)) return b;
@@ -24,12 +18,12 @@ Rect IntersectionOf(const Rect& a, const Rect& b) {
 }
 
 Rect MovedBy(const Rect& rect, int64_t dx, int64_t dy) {
-  return {Narrowed(rect.left + dx), Narrowed(rect.top + dy), Narrowed(rect.right + dx),
-          Narrowed(rect.bottom + dy)};
+  return {SaturatedInt(rect.left + dx), SaturatedInt(rect.top + dy), SaturatedInt(rect.right + dx),
+          SaturatedInt(rect.bottom + dy)};
 }
 
 Point MovedBy(const Point& point, int64_t dx, int64_t dy) {
-  return {Narrowed(point.x + dx), Narrowed(point.y + dy)};
+  return {SaturatedInt(point.x + dx), SaturatedInt(point.y + dy)};
 }
 
 Rect AtOrigin(const Rect& rect) {

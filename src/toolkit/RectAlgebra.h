@@ -4,6 +4,7 @@
 #include <cstdint>
 
 #include "drawing/Rect.h"
+#include "platform/SaturatedInt.h"
 
 // The smallest rectangle round both. An empty a gives b, whatever b is; an empty b gives a.
 Rect UnionOf(const Rect& a, const Rect& b);
@@ -18,9 +19,6 @@ Point MovedBy(const Point& point, int64_t dx, int64_t dy);
 
 // The same size with the top left at (0, 0); a side longer than an int32 holds is cut there.
 Rect AtOrigin(const Rect& rect);
-
-// The nearest that an int32 holds.
-int32_t Narrowed(int64_t coordinate);
 
 // Whether the point is inside, right and bottom excluded.
 bool Contains(const Rect& rect, const Point& point);

@@ -74,11 +74,11 @@ void ScrollBar::Paint(const Rect& rect, ImageBuffer& buffer, const Point& positi
   const int32_t start = track.ThumbStart(Fraction());
   Rect thumb = InsetBy(area.bounds, kThumbInset);
   if (across) {
-    thumb.left = Narrowed(int64_t{area.bounds.left} + start);
-    thumb.right = Narrowed(int64_t{thumb.left} + track.thumb);
+    thumb.left = SaturatedInt(int64_t{area.bounds.left} + start);
+    thumb.right = SaturatedInt(int64_t{thumb.left} + track.thumb);
   } else {
-    thumb.top = Narrowed(int64_t{area.bounds.top} + start);
-    thumb.bottom = Narrowed(int64_t{thumb.top} + track.thumb);
+    thumb.top = SaturatedInt(int64_t{area.bounds.top} + start);
+    thumb.bottom = SaturatedInt(int64_t{thumb.top} + track.thumb);
   }
   thumbStrip.Draw(target, thumb, across, PlateColor(LookWhile(pressed), ThemeColors::Gray76));
   PaintFocus(target, thumb, ScrollStrip::kCornerRadius);
@@ -99,7 +99,7 @@ double ScrollBar::Fraction() const {
 }
 
 bool ScrollBar::ScrollTo(int64_t wanted) {
-  const int32_t held = Narrowed(std::clamp<int64_t>(wanted, 0, MostPosition()));
+  const int32_t held = SaturatedInt(std::clamp<int64_t>(wanted, 0, MostPosition()));
   if (held == scrollPosition) return true;
   scrollPosition = held;
   return RedrawAndTellListener();

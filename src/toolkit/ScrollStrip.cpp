@@ -25,7 +25,7 @@ void ScrollStrip::Draw(const PaintTarget& target, const Rect& rect, bool horizon
   const int64_t length = horizontal ? WidthOf(rect) : HeightOf(rect);
   const int64_t thickness = horizontal ? HeightOf(rect) : WidthOf(rect);
   const ImageBuffer& buffer = target.buffer;
-  Make({Narrowed(std::min<int64_t>(thickness, kThickest)), horizontal, color,
+  Make({SaturatedInt(std::min<int64_t>(thickness, kThickest)), horizontal, color,
         buffer.IsScaleAware() ? buffer.Scale() : 1.0F});
 
   const auto end = static_cast<int32_t>(std::min<int64_t>(kEnd, length / 2));
@@ -59,7 +59,7 @@ void ScrollStrip::Make(const Key& wanted) {
 
 void ScrollStrip::DrawPiece(const PaintTarget& target, const Rect& rect, int32_t from, int32_t to,
                             int64_t place) const {
-  const int32_t at = Narrowed(place);
+  const int32_t at = SaturatedInt(place);
   const Rect source =
       key.horizontal ? Rect{from, 0, to, key.thickness} : Rect{0, from, key.thickness, to};
   picture.BlendTo(target.buffer, source, key.horizontal ? at : rect.left,

@@ -42,8 +42,8 @@ void ScrollingMenuEnclosure::Rebuild() {
   const int64_t wantedHeight = int64_t{list.bottom} + kBothFrames;
   const int64_t height = std::min<int64_t>(wantedHeight, mostHeight);
   const int64_t barWidth = height < wantedHeight ? kBarWidth : 0;
-  bounds.right = Narrowed(bounds.left + int64_t{list.right} + barWidth + kBothFrames);
-  bounds.bottom = Narrowed(bounds.top + height);
+  bounds.right = SaturatedInt(bounds.left + int64_t{list.right} + barWidth + kBothFrames);
+  bounds.bottom = SaturatedInt(bounds.top + height);
   scrollPane->SetBounds(InsetBy(GetLocalBounds(), kFrame));
 }
 

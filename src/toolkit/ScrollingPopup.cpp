@@ -45,7 +45,7 @@ void ScrollingPopup::ShowAt(TopControlPane& root, const Point& point, const Rect
   enclosure->GetSub()->ForgetRows();
   enclosure->GetSub()->SetSelectedIndex(chosenIndex);
   const int64_t room = IsEmpty(limits) ? kMostHeight : HeightOf(limits);
-  enclosure->SetMostHeight(Narrowed(std::min(room, kMostHeight)));
+  enclosure->SetMostHeight(SaturatedInt(std::min(room, kMostHeight)));
   enclosure->Rebuild();
   enclosure->ShowRow(chosenIndex);
   Rect place = ShiftedInto(MovedTo(enclosure->GetLocalBounds(), point), limits);

@@ -115,10 +115,10 @@ bool Slider::MoveKnobTo(int64_t knobStart) {
 Rect Slider::Segment(const Rect& place, int64_t from, int64_t to, int32_t thickness) const {
   if (IsHorizontal()) {
     const int64_t top = place.top + (HeightOf(place) - thickness) / 2;
-    return {Narrowed(place.left + from), Narrowed(top), Narrowed(place.left + to),
-            Narrowed(top + thickness)};
+    return {SaturatedInt(place.left + from), SaturatedInt(top), SaturatedInt(place.left + to),
+            SaturatedInt(top + thickness)};
   }
   const int64_t left = place.left + (WidthOf(place) - thickness) / 2;
-  return {Narrowed(left), Narrowed(place.top + from), Narrowed(left + thickness),
-          Narrowed(place.top + to)};
+  return {SaturatedInt(left), SaturatedInt(place.top + from), SaturatedInt(left + thickness),
+          SaturatedInt(place.top + to)};
 }

@@ -82,14 +82,15 @@ int32_t MeasureCaption(const std::string& text) {
 }
 
 Rect InsetBy(const Rect& rect, int32_t inset) {
-  return {Narrowed(int64_t{rect.left} + inset), Narrowed(int64_t{rect.top} + inset),
-          Narrowed(int64_t{rect.right} - inset), Narrowed(int64_t{rect.bottom} - inset)};
+  return {SaturatedInt(int64_t{rect.left} + inset), SaturatedInt(int64_t{rect.top} + inset),
+          SaturatedInt(int64_t{rect.right} - inset), SaturatedInt(int64_t{rect.bottom} - inset)};
 }
 
 Rect CentredSquare(const Rect& rect, int32_t side) {
   const int64_t left = rect.left + (WidthOf(rect) - side) / 2;
   const int64_t top = rect.top + (HeightOf(rect) - side) / 2;
-  return {Narrowed(left), Narrowed(top), Narrowed(left + side), Narrowed(top + side)};
+  return {SaturatedInt(left), SaturatedInt(top), SaturatedInt(left + side),
+          SaturatedInt(top + side)};
 }
 
 int64_t WidthOf(const Rect& rect) {

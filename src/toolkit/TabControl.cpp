@@ -83,8 +83,8 @@ void TabControl::Paint(const Rect& rect, ImageBuffer& buffer, const Point& posit
         MovedBy(places[static_cast<size_t>(index)], area.bounds.left, area.bounds.top);
     if (!IsEmpty(Intersection(place, area.clip))) PaintTab(target, place, index);
   }
-  const Rect base = {area.bounds.left, Narrowed(int64_t{area.bounds.bottom} - 1), area.bounds.right,
-                     area.bounds.bottom};
+  const Rect base = {area.bounds.left, SaturatedInt(int64_t{area.bounds.bottom} - 1),
+                     area.bounds.right, area.bounds.bottom};
   buffer.FillRect(base, kActiveFill, target.opacity, &area.clip);
 }
 

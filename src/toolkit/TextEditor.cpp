@@ -162,7 +162,7 @@ void TextEditor::Paint(const Rect& rect, ImageBuffer& buffer, const Point& posit
   TextStyle style;
   style.color = ThemeColors::Gray102;
   style.clip = &area.clip;
-  const int32_t left = Narrowed(int64_t{area.bounds.left} + TextField::kPadding);
+  const int32_t left = SaturatedInt(int64_t{area.bounds.left} + TextField::kPadding);
   SharedLabeler().SetFont(font);
   SharedLabeler().DrawStringInRect(buffer, GetTitle().c_str(),
                                    {left, area.bounds.top, area.bounds.right, area.bounds.bottom},

@@ -28,13 +28,13 @@ constexpr ColorBGRA kSelectionFill(0xFF1D5F8F);
 Rect LineIn(const Rect& box, int64_t left, int64_t right) {
   const int64_t top =
       box.top + (int64_t{box.bottom} - box.top - SharedLabeler().GetLineHeight()) / 2;
-  return {Narrowed(left), Narrowed(top), Narrowed(right),
-          Narrowed(top + SharedLabeler().GetLineHeight() + 1)};
+  return {SaturatedInt(left), SaturatedInt(top), SaturatedInt(right),
+          SaturatedInt(top + SharedLabeler().GetLineHeight() + 1)};
 }
 
 Rect RoomIn(const Rect& box) {
-  return {Narrowed(int64_t{box.left} + TextField::kPadding), box.top,
-          Narrowed(int64_t{box.right} - TextField::kPadding), box.bottom};
+  return {SaturatedInt(int64_t{box.left} + TextField::kPadding), box.top,
+          SaturatedInt(int64_t{box.right} - TextField::kPadding), box.bottom};
 }
 
 }  // namespace
@@ -123,7 +123,7 @@ void TextField::DrawText(ImageBuffer& buffer, const Rect& box, const FieldLook& 
   const auto edge = [&](int32_t place) { return left + edges[static_cast<size_t>(place)]; };
   Rect inside = Intersection(RoomIn(box), clip);
   // The caret of a full field stands in the padding.
-  inside.right = std::min(Narrowed(int64_t{inside.right} + 1), clip.right);
+  inside.right = std::min(SaturatedInt(int64_t{inside.right} + 1), clip.right);
   SharedLabeler().SetFont(font);
   if (focused && edit.Selection() != 0) {
     buffer.FillRect(LineIn(box, edge(edit.SelectionStart()), edge(edit.SelectionEnd())),
@@ -133,7 +133,7 @@ void TextField::DrawText(ImageBuffer& buffer, const Rect& box, const FieldLook& 
   style.color = ColorsOfField(look).text;
   style.clip = &inside;
   SharedLabeler().DrawStringInRect(buffer, edit.Text().c_str(),
-                                   {Narrowed(left), box.top, box.right, box.bottom},
+                                   {SaturatedInt(left), box.top, box.right, box.bottom},
                                    TextAlignment::kLeft, style);
   if (!focused || !blinkOn || edit.Selection() != 0) return;
   const int64_t caret = edge(edit.Caret());
@@ -142,18 +142,18 @@ void TextField::DrawText(ImageBuffer& buffer, const Rect& box, const FieldLook& 
 
 int32_t TextField::TextEnd(const Rect& box, bool focused) const {
   const std::vector<int32_t> edges = TextEdges(edit.Text(), *font);
-  return Narrowed(int64_t{box.left} + kPadding + edges.back() - Scroll(edges, box, focused));
+  return SaturatedInt(int64_t{box.left} + kPadding + edges.back() - Scroll(edges, box, focused));
 }
 
 // Only a field with the focus is pressed in its text.
 int32_t TextField::PlaceUnder(int32_t x, const Rect& box) const {
   const std::vector<int32_t> edges = TextEdges(edit.Text(), *font);
-  return PlaceAtX(edges, Narrowed(int64_t{x} - box.left - kPadding + Scroll(edges, box, true)));
+  return PlaceAtX(edges, SaturatedInt(int64_t{x} - box.left - kPadding + Scroll(edges, box, true)));
 }
 
 int32_t TextField::Scroll(const std::vector<int32_t>& edges, const Rect& box, bool focused) const {
   if (!focused) return 0;
   const int64_t room = int64_t{box.right} - box.left - 2 * int64_t{kPadding};
   const int64_t caret = edges[static_cast<size_t>(edit.Caret())];
-  return Narrowed(std::max<int64_t>(0, caret - std::max<int64_t>(0, room)));
+  return SaturatedInt(std::max<int64_t>(0, caret - std::max<int64_t>(0, room)));
 }

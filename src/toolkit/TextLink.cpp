@@ -78,6 +78,7 @@ void TextLink::Paint(const Rect& rect, ImageBuffer& buffer, const Point& positio
   const int64_t lineSlack =
       int64_t{area.bounds.bottom} - area.bounds.top - SharedLabeler().GetLineHeight();
   const int64_t bottom = area.bounds.bottom - (lineSlack >> 1);
-  buffer.FillRect({Narrowed(left), Narrowed(bottom), Narrowed(left + width), Narrowed(bottom + 1)},
+  buffer.FillRect({SaturatedInt(left), SaturatedInt(bottom), SaturatedInt(left + width),
+                   SaturatedInt(bottom + 1)},
                   style.color, kOpaque, &area.clip);
 }

@@ -43,9 +43,9 @@ void TextMenuSub::ScrollToward(const Point& point) {
   const Rect area = ShownArea();
   Point offset = view->GetOffset();
   if (point.y < area.top) {
-    offset.y = Narrowed(int64_t{offset.y} - first->height);
+    offset.y = SaturatedInt(int64_t{offset.y} - first->height);
   } else if (point.y >= area.bottom) {
-    offset.y = Narrowed(int64_t{offset.y} + first->height);
+    offset.y = SaturatedInt(int64_t{offset.y} + first->height);
   } else {
     return;
   }

@@ -18,11 +18,11 @@ void DrawTextBlock(ImageBuffer& buffer, const std::string& text, const Rect& rec
   SharedLabeler().SetFont(&font);
   const int32_t lineHeight = std::max(1, SharedLabeler().GetLineHeight() + kLineGap);
   const int64_t height = int64_t{rect.bottom} - rect.top;
-  const int32_t width = Narrowed(int64_t{rect.right} - rect.left);
+  const int32_t width = SaturatedInt(int64_t{rect.right} - rect.left);
   int64_t top = rect.top;
   for (const std::string& line :
-       WrapText(text, font, width, Narrowed((height + lineHeight - 1) / lineHeight))) {
-    const Rect place = {rect.left, Narrowed(top), rect.right, Narrowed(top + lineHeight)};
+       WrapText(text, font, width, SaturatedInt((height + lineHeight - 1) / lineHeight))) {
+    const Rect place = {rect.left, SaturatedInt(top), rect.right, SaturatedInt(top + lineHeight)};
     SharedLabeler().DrawStringInRect(buffer, line.c_str(), place, alignment, style);
     top += lineHeight;
   }

@@ -20,7 +20,7 @@ int32_t ThumbTrack::ThumbStart(double fraction) const {
   // Written so that NaN is 0.
   const double held = fraction > 0.0 ? std::min(fraction, 1.0) : 0.0;
   const auto room = static_cast<double>(int64_t{last} - first);
-  return Narrowed(first + Truncate<int64_t>(held * room + 0.5));
+  return SaturatedInt(first + Truncate<int64_t>(held * room + 0.5));
 }
 
 double ThumbTrack::FractionAt(int64_t thumbStart) const {
@@ -35,11 +35,11 @@ bool ThumbTrack::IsOnThumb(double fraction, int32_t place) const {
 }
 
 ThumbTrack MakeSliderTrack(int32_t length, int32_t cross) {
-  const int32_t knob = Narrowed(std::max<int64_t>(int64_t{cross} - kKnobInset, kSmallestKnob));
+  const int32_t knob = SaturatedInt(std::max<int64_t>(int64_t{cross} - kKnobInset, kSmallestKnob));
   const int64_t half = knob / 2;
   // The knob's middle goes from the near gap and half a knob to as much short of the far end.
   const int64_t last = int64_t{length} - kFarGap - 2 * half;
-  return {kNearGap, Narrowed(std::max<int64_t>(last, kNearGap)), knob};
+  return {kNearGap, SaturatedInt(std::max<int64_t>(last, kNearGap)), knob};
 }
 
 ThumbTrack MakeScrollTrack(int32_t length, int32_t content, int32_t view) {
@@ -47,6 +47,7 @@ ThumbTrack MakeScrollTrack(int32_t length, int32_t content, int32_t view) {
   const int32_t shown = std::max(view, 0);
   if (content <= shown) return {0, 0, room};
   const int64_t share = int64_t{room} * shown / content;
-  const int32_t thumb = Narrowed(std::min<int64_t>(std::max<int64_t>(share, kShortestThumb), room));
+  const int32_t thumb =
+      SaturatedInt(std::min<int64_t>(std::max<int64_t>(share, kShortestThumb), room));
   return {0, room - thumb, thumb};
 }

@@ -72,8 +72,8 @@ void TitledDropDown::PaintPlate(const PaintTarget& target, const Rect& plate) {
   const PlateLook look = LookWhile(pressed || IsPopupOpen());
   DrawPlate(target.buffer, plate, PlateColor(look, StockColors::DisabledPlate), target.clip);
   Rect text = plate;
-  text.left = Narrowed(int64_t{plate.left} + kPadX);
-  text.right = Narrowed(int64_t{plate.right} - kArrowRoom);
+  text.left = SaturatedInt(int64_t{plate.left} + kPadX);
+  text.right = SaturatedInt(int64_t{plate.right} - kArrowRoom);
   if (chosen >= 0) {
     DrawCaption(target, choices[static_cast<size_t>(chosen)], text, TextAlignment::kLeft,
                 PlateTextColor(look.pressed));

@@ -32,7 +32,7 @@ void TitledPane::SetTitle(const std::string& newTitle) {
 void TitledPane::Paint(const Rect& rect, ImageBuffer& buffer, const Point& position) {
   const PaintArea area = AreaToPaint(rect, position);
   Rect place = area.bounds;
-  place.right = Narrowed(int64_t{area.bounds.left} + ContentArea().left - kGap);
+  place.right = SaturatedInt(int64_t{area.bounds.left} + ContentArea().left - kGap);
   DrawCaption(TargetFor(buffer, area), title, place, TextAlignment::kRight, StockColors::Text);
 }
 

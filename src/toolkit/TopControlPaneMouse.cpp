@@ -180,7 +180,7 @@ int32_t TopControlPane::MouseOver(const Point& point, const Modifiers& modifiers
   int32_t cursor = hit ? AskForCursor(hit.Get(), point, modifiers) : 0;
   if (!self) return cursor;
   if (cursor == kKeepPointerWithCursor0) cursor = 0;
-  const int32_t cursorId = cursor < 0 ? Narrowed(-int64_t{cursor}) : cursor;
+  const int32_t cursorId = cursor < 0 ? SaturatedInt(-int64_t{cursor}) : cursor;
   if (cursorId != currentCursor && windowContext != nullptr) {
     currentCursor = cursorId;
     windowContext->SetCursor(cursorId);
