@@ -10,6 +10,7 @@
 
 #include "workbench/Failure.h"
 #include "workbench/audio/AudioDecoder.h"
+#include "workbench/cli/Interruption.h"
 #include "workbench/cli/LoudestFrame.h"
 #include "workbench/cli/OrderedWork.h"
 #include "workbench/cli/Progress.h"
@@ -79,20 +80,29 @@ FramePixels PixelsOf(const OutputWorld& world) {
   return {world.Row(0).data(), world.RowBytes(), world.Width(), world.Height()};
 }
 
-void RenderAll(Stage& stage, const RenderOptions& options, const FrameSpan& frames,
-               const FrameSize& size, ProgressLine& progress, FrameOutput& output) {
+struct RenderJob {
+  Stage& stage;
+  const RenderOptions& options;
+  FrameSpan frames;
+  FrameSize size;
+};
+
+void RenderAll(const RenderJob& job, const Interruption& interruption, ProgressLine& progress,
+               FrameOutput& output) {
+  const FrameSpan frames = job.frames;
   const int64_t count = frames.last - frames.first + 1;
-  const auto workers = static_cast<int>(std::min<int64_t>(options.threads, count));
+  const auto workers = static_cast<int>(std::min<int64_t>(job.options.threads, count));
   std::deque<Bench> benches;
-  for (int i = 0; i < workers; ++i) benches.emplace_back(size);
+  for (int i = 0; i < workers; ++i) benches.emplace_back(job.size);
   const auto bench = [&benches](int worker) -> Bench& {
     return benches[static_cast<size_t>(worker)];
   };
   OrderedWork work;
   work.make = [&](int worker, int64_t frame) {
+    interruption.Check();
     Bench& own = bench(worker);
-    stage.Session().RenderFrame(stage.Instance(), frame, own.world, options.downsample);
-    own.pixels = LayOver(options.ground, PixelsOf(own.world), own.room);
+    job.stage.Session().RenderFrame(job.stage.Instance(), frame, own.world, job.options.downsample);
+    own.pixels = LayOver(job.options.ground, PixelsOf(own.world), own.room);
     own.encoded = output.Encode(own.pixels);
   };
   work.take = [&](int worker, int64_t frame) {
@@ -123,10 +133,11 @@ int RunRender(const StageOptions& stageOptions, const RenderOptions& options) {
   const FrameSpan frames = options.frames.value_or(FrameSpan{loudest, loudest});
   RequireReachable(frames, layer);
   const FrameSize size = RenderedSize(stage.ProjectComp(), options.downsample);
+  const Interruption interruption;
   const std::unique_ptr<FrameOutput> output = OpenOutput(options, stage.ProjectComp(), size);
   {
     ProgressLine progress(stageOptions.quiet);
-    RenderAll(stage, options, frames, size, progress, *output);
+    RenderAll({stage, options, frames, size}, interruption, progress, *output);
   }
   for (const std::string& message : stage.Session().Messages()) std::cerr << message << '\n';
   stage.Finish([&output] { output->Publish(); });

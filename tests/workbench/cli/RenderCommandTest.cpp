@@ -181,4 +181,21 @@ TEST_F(RenderCommand, ThatFailsTellsWhyInOneLineAndLeavesTheOldFiles) {
   }
 }
 
+TEST_F(RenderCommand, ThatIsStoppedTakesItsUnfinishedFilesWithIt) {
+  for (const char* kind : {"out/%d.png", "out/a.mov"}) {
+    // The shell waits for the first unfinished file, stops the run and tells how it ended.
+    const std::string command =
+        "cd '" + folder.Path().string() +
+        "' && { '" WORKBENCH "' render a.wav --plugin '" PATTERN_PLUGIN
+        "' --frames 0..20000 --size 1920x1080 --out " +
+        kind + " 2>err & run=$!; " +
+        "while kill -0 $run 2>err2 && [ -z \"$(ls -A out)\" ]; do sleep 0.02; done; " +
+        "kill -TERM $run; wait $run; }";
+    const int status = std::system(command.c_str());
+    EXPECT_EQ(WEXITSTATUS(status), 1) << kind;
+    EXPECT_NE(Read(folder.Path() / "err").find("stopped before the end"), std::string::npos);
+    EXPECT_EQ(std::distance(fs::directory_iterator(out), {}), 0) << kind;
+  }
+}
+
 }  // namespace
