@@ -8,7 +8,7 @@ namespace {
 
 class SystemClock : public Clock {
  public:
-  uint32_t Milliseconds() override { return TickCountMilliseconds(); }
+  uint32_t Milliseconds() override { return ClockMilliseconds(); }
   void Sleep(int32_t milliseconds) override { SleepMilliseconds(milliseconds); }
 };
 

@@ -1,4 +1,4 @@
-// Where the module's handle is kept.
+// A system whose modules are asked for nothing by their handle.
 #include "platform/LibraryModule.h"
 
 ModuleHandle libraryModule = nullptr;
