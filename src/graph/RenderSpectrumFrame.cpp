@@ -18,9 +18,9 @@
 namespace {
 
 // The falloff memory is compared and then written: frames of one instance must not overlap, and
-// the host may send them on several threads. Initialised as a constant, so that it is there before
-// any thread.
-constinit std::mutex renderLock;
+// the host may send them on several threads. Made while the library is loaded, so that it is there
+// before any thread.
+std::mutex renderLock;
 
 using RangeValues = std::array<double, kRangeCount>;
 
