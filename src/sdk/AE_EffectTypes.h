@@ -97,6 +97,10 @@ struct PF_SpecVersion {
   A_short minor;
 };
 
+// Of the effect interface that these headers declare.
+constexpr A_u_long PF_PLUG_IN_VERSION = 13;
+constexpr A_u_long PF_PLUG_IN_SUBVERS = 25;
+
 static_assert(sizeof(PF_RationalScale) == 8 && offsetof(PF_RationalScale, den) == 4);
 static_assert(sizeof(PF_Point) == 8 && offsetof(PF_Point, h) == 0 && offsetof(PF_Point, v) == 4);
 static_assert(sizeof(PF_FixedPoint) == 8 && offsetof(PF_FixedPoint, y) == 4);

@@ -5,6 +5,10 @@
 
 constexpr const char* kPluginName = "Delvior";
 constexpr const char* kPluginDescription = "Generates Keyframes from audio.";
+constexpr const char* kPluginCategory = "Om Quorvane";
+constexpr const char* kPluginMatchName =
+    "qv Delvior";  // what a project stores of which effect it is
+constexpr const char* kEntryPoint = "EntryPointFunc";
 
 constexpr int kMajorVersion = 18;
 constexpr int kMinorVersion = 0;
