@@ -18,9 +18,10 @@
 namespace {
 
 // The falloff memory is compared and then written: frames of one instance must not overlap, and
-// the host may send them on several threads. Made while the library is loaded, so that it is there
-// before any thread.
-std::mutex renderLock;
+// the host may send them on several threads. A host that needs another frame to answer a call of
+// this one asks for it on the same thread, which must not wait for itself. Made while the library
+// is loaded, so that it is there before any thread.
+std::recursive_mutex renderLock;
 
 using RangeValues = std::array<double, kRangeCount>;
 

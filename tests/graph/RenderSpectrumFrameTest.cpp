@@ -182,6 +182,21 @@ TEST(RenderSpectrumFrame, FramesOfAllInstancesWaitForOneAnother) {
   }
 }
 
+TEST(RenderSpectrumFrame, AFrameThatAFrameCausesDoesNotWaitForIt) {
+  GraphHost outer(kWidth, kHeight);
+  GraphHost inner(kWidth, kHeight);
+  static GraphHost* caused;
+  caused = &inner;
+  outer.samples = inner.samples = MakeNoise(600, 0);
+  outer.utils.ansi.sqrt = [](double x) {
+    EXPECT_EQ(caused->Render(1000), PF_Err_NONE);
+    return std::sqrt(x);
+  };
+  ASSERT_EQ(outer.Render(1000), PF_Err_NONE);
+  EXPECT_EQ(outer.picture.pixels, inner.picture.pixels);
+  EXPECT_EQ(outer.handle.locks + inner.handle.locks, 0);
+}
+
 TEST(RenderSpectrumFrame, AllocatesNothing) {
   GraphHost host(kWidth, kHeight);
   host.samples = MakeNoise(6615, 0);
