@@ -4,7 +4,6 @@
 #include <cstdint>
 
 #include "AE_EffectUI.h"
-#include "shell/ParameterTable.h"
 
 // Pixels of the host's panel; 64 bits, since the host's frames and points may be anything.
 struct RowRect {
