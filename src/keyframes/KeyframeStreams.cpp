@@ -1,6 +1,8 @@
 // Opens, writes and closes through the host's keyframe suites.
 #include "keyframes/KeyframeStreams.h"
 
+#include "keyframes/HandedOut.h"
+
 namespace {
 
 // The effect asks under no plug-in id of its own.
@@ -24,18 +26,22 @@ KeyframeStreams::~KeyframeStreams() {
 }
 
 PF_Err KeyframeStreams::Open(PF_ProgPtr effectRef, const ActiveRanges& active) {
-  PF_Err openError = interfaceSuite.AEGP_GetNewEffectForEffect(kNoPluginId, effectRef, &effect);
+  PF_Err openError =
+      HandedOut(interfaceSuite.AEGP_GetNewEffectForEffect(kNoPluginId, effectRef, &effect), effect);
   if (openError != PF_Err_NONE) return openError;
   for (int32_t range = 0; range < kRangeCount; ++range) {
     const auto slot = static_cast<size_t>(range);
     if (!active[slot]) continue;
-    openError = streamSuite.AEGP_GetNewEffectStreamByIndex(
-        kNoPluginId, effect, RangeParameter(range, kRangeOutput), &outputs[slot].stream);
+    AEGP_StreamRefH& stream = outputs[slot].stream;
+    openError = HandedOut(streamSuite.AEGP_GetNewEffectStreamByIndex(
+                              kNoPluginId, effect, RangeParameter(range, kRangeOutput), &stream),
+                          stream);
     if (openError != PF_Err_NONE) return openError;
   }
   for (Output& output : outputs) {
     if (output.stream == nullptr) continue;
-    openError = keyframeSuite.AEGP_StartAddKeyframes(output.stream, &output.addHandle);
+    openError = HandedOut(keyframeSuite.AEGP_StartAddKeyframes(output.stream, &output.addHandle),
+                          output.addHandle);
     if (openError != PF_Err_NONE) return openError;
   }
   return PF_Err_NONE;

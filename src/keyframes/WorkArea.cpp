@@ -5,6 +5,8 @@
 #include <cstdint>
 #include <limits>
 
+#include "keyframes/HandedOut.h"
+
 namespace {
 
 // The end of the area, on the duration's scale; held where the sum leaves what a time can hold.
@@ -19,23 +21,27 @@ A_Time EndOf(const A_Time& start, const A_Time& duration) {
 
 PF_Err FindWorkArea(AEGP_SuiteHandler& suites, PF_ProgPtr effectRef, WorkArea* workArea) {
   AEGP_LayerH layer = nullptr;
-  PF_Err error = suites.PFInterfaceSuite().AEGP_GetEffectLayer(effectRef, &layer);
+  PF_Err error = HandedOut(suites.PFInterfaceSuite().AEGP_GetEffectLayer(effectRef, &layer), layer);
   if (error != PF_Err_NONE) return error;
 
+  const AEGP_LayerSuite5& layerSuite = suites.LayerSuite();
   AEGP_CompH comp = nullptr;
-  error = suites.LayerSuite().AEGP_GetLayerParentComp(layer, &comp);
+  error = HandedOut(layerSuite.AEGP_GetLayerParentComp(layer, &comp), comp);
   if (error != PF_Err_NONE) return error;
 
+  const AEGP_CompSuite4& compSuite = suites.CompSuite();
   A_Time start{};
-  error = suites.CompSuite().AEGP_GetCompWorkAreaStart(comp, &start);
+  error = HandedOut(compSuite.AEGP_GetCompWorkAreaStart(comp, &start), start);
   if (error != PF_Err_NONE) return error;
 
   A_Time duration{};
-  error = suites.CompSuite().AEGP_GetCompWorkAreaDuration(comp, &duration);
+  error = HandedOut(compSuite.AEGP_GetCompWorkAreaDuration(comp, &duration), duration);
   if (error != PF_Err_NONE) return error;
 
   const A_Time end = EndOf(start, duration);
-  error = suites.LayerSuite().AEGP_ConvertCompToLayerTime(layer, &start, &workArea->start);
+  A_Time& layerStart = workArea->start;
+  error = HandedOut(layerSuite.AEGP_ConvertCompToLayerTime(layer, &start, &layerStart), layerStart);
   if (error != PF_Err_NONE) return error;
-  return suites.LayerSuite().AEGP_ConvertCompToLayerTime(layer, &end, &workArea->end);
+  A_Time& layerEnd = workArea->end;
+  return HandedOut(layerSuite.AEGP_ConvertCompToLayerTime(layer, &end, &layerEnd), layerEnd);
 }

@@ -1,5 +1,6 @@
 // Catches whatever stays locked, acquired or open when any host call fails, and failures kept
 // quiet.
+#include <algorithm>
 #include <functional>
 #include <set>
 
@@ -150,6 +151,21 @@ TEST(FailingHost, ARunLosesOneKeyframeOrStartsNotAtAllAndTellsTheUser) {
   // What can't fail, or costs nothing: the unlock, the release of each of seven suites, the
   // check-in of each of six windows, and the request to draw the row anew.
   EXPECT_EQ(quiet, 15);
+}
+
+TEST(FailingHost, ARunThatIsHandedNothingWritesNothingAndTellsTheUser) {
+  int struck = 0;
+  for (int64_t n = 1, calls = 1; n <= calls; ++n) {
+    Instance instance(0.1);
+    instance.SetUpSequence();
+    const CommandResult result = instance.PressAndRelease({n, 0});
+    EXPECT_TRUE(result.broken.empty()) << n << ": " << result.broken.front();
+    EXPECT_EQ(result.ShowsMessage(), result.faultStruck) << n;
+    EXPECT_EQ(instance.Output(1).empty(), result.faultStruck) << n;
+    if (result.faultStruck) ++struck;
+    calls = std::max(calls, result.hostCalls);
+  }
+  EXPECT_EQ(struck, 9) << "layer, comp, four times, effect, stream and batch";
 }
 
 TEST(FailingHost, AMissingSuiteEndsARunBeforeItWrites) {

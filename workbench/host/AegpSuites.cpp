@@ -34,6 +34,7 @@ Comp* FindComp(const HostCall& call, AEGP_CompH reference) {
 A_Err GetEffectLayer(PF_ProgPtr effect_ref, AEGP_LayerH* layer) {
   const HostCall call("AEGP_GetEffectLayer", effect_ref);
   if (!call) return call.Error();
+  if (call->GivesNull()) return PF_Err_NONE;
   if (call->Instance() == nullptr) return call.Broken("there is no instance");
   *layer = AsReference<AEGP_LayerH>(&call->Instance()->EffectLayer());
   return PF_Err_NONE;
@@ -42,6 +43,7 @@ A_Err GetEffectLayer(PF_ProgPtr effect_ref, AEGP_LayerH* layer) {
 A_Err GetNewEffectForEffect(AEGP_PluginID /*id*/, PF_ProgPtr effect_ref, AEGP_EffectRefH* effect) {
   const HostCall call("AEGP_GetNewEffectForEffect", effect_ref);
   if (!call) return call.Error();
+  if (call->GivesNull()) return PF_Err_NONE;
   if (call->Instance() == nullptr) return call.Broken("there is no instance");
   *effect = AsReference<AEGP_EffectRefH>(&call->effects.Open({*call->Instance()}));
   return PF_Err_NONE;
@@ -50,6 +52,7 @@ A_Err GetNewEffectForEffect(AEGP_PluginID /*id*/, PF_ProgPtr effect_ref, AEGP_Ef
 A_Err GetLayerParentComp(AEGP_LayerH reference, AEGP_CompH* comp) {
   const HostCall call("AEGP_GetLayerParentComp");
   if (!call) return call.Error();
+  if (call->GivesNull()) return PF_Err_NONE;
   const Layer* layer = FindLayer(call, reference);
   if (layer == nullptr) return PF_Err_BAD_CALLBACK_PARAM;
   *comp = AsReference<AEGP_CompH>(layer->comp);
@@ -59,6 +62,7 @@ A_Err GetLayerParentComp(AEGP_LayerH reference, AEGP_CompH* comp) {
 A_Err ConvertCompToLayerTime(AEGP_LayerH reference, const A_Time* comp_time, A_Time* layer_time) {
   const HostCall call("AEGP_ConvertCompToLayerTime");
   if (!call) return call.Error();
+  if (call->GivesNull()) return PF_Err_NONE;
   const Layer* layer = FindLayer(call, reference);
   if (layer == nullptr) return PF_Err_BAD_CALLBACK_PARAM;
   if (comp_time->scale == 0) return call.Broken("the time's scale is 0");
@@ -71,6 +75,7 @@ A_Err GetWorkAreaTime(const char* callName, AEGP_CompH reference, int32_t Comp::
                       A_Time* time) {
   const HostCall call(callName);
   if (!call) return call.Error();
+  if (call->GivesNull()) return PF_Err_NONE;
   const Comp* comp = FindComp(call, reference);
   if (comp == nullptr) return PF_Err_BAD_CALLBACK_PARAM;
   *time = {comp->*ticks, comp->timeScale};
@@ -89,6 +94,7 @@ A_Err GetNewEffectStreamByIndex(AEGP_PluginID /*id*/, AEGP_EffectRefH reference,
                                 PF_ParamIndex index, AEGP_StreamRefH* stream) {
   const HostCall call("AEGP_GetNewEffectStreamByIndex");
   if (!call) return call.Error();
+  if (call->GivesNull()) return PF_Err_NONE;
   OpenEffect* effect = call->effects.Find(reference);
   if (effect == nullptr) return call.Broken("the effect reference is not open");
   if (index < 1 || static_cast<size_t>(index) >= effect->instance.ParameterCount() ||
@@ -128,6 +134,7 @@ A_Err DisposeEffect(AEGP_EffectRefH reference) {
 A_Err StartAddKeyframes(AEGP_StreamRefH reference, AEGP_AddKeyframesInfoH* info) {
   const HostCall call("AEGP_StartAddKeyframes");
   if (!call) return call.Error();
+  if (call->GivesNull()) return PF_Err_NONE;
   const PF_Err refusal = call.RefuseInRender();
   if (refusal != PF_Err_NONE) return refusal;
   OpenStream* stream = call->streams.Find(reference);

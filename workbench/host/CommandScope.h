@@ -21,7 +21,8 @@ class Pane;
 // Makes the n-th host call of a command fail.
 struct Fault {
   int64_t atCall = 0;  // counted from 1; 0: no call fails
-  // 0: a drawing call succeeds, but what it hands out is null; other calls do their work
+  // 0: a call of the drawing or the project suites succeeds, but what it hands out is null or, for
+  // a time, as it was; other calls do their work
   PF_Err error = PF_Err_BAD_CALLBACK_PARAM;
 };
 
