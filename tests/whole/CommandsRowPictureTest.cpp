@@ -138,6 +138,15 @@ TEST(CommandsRowPicture, BevelAndMarksAreStrokedOneColorAfterTheOther) {
   EXPECT_EQ(Gray(row.Calls("StrokePath").at(4)), kLight);
 }
 
+TEST(CommandsRowPicture, ABrightPanelKeepsItsShadesApart) {
+  Row row;
+  row.instance.host.Profile().interfaceColor = {0xC000, 0xC000, 0xC000};
+  row.panel.Draw();
+  EXPECT_EQ(Gray(row.Calls("FillPath").at(1)), 0xA100) << "the button's face";
+  EXPECT_EQ(Gray(row.Calls("StrokePath").front()), 0xFFFF);
+  EXPECT_EQ(Gray(row.Calls("StrokePath").at(4)), 0x4100);
+}
+
 TEST(CommandsRowPicture, ANoisyHostLosesNothingButThePicture) {
   for (const PF_Err error : {1234, 0}) {
     int endedByHost = 0;

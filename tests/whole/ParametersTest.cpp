@@ -64,10 +64,36 @@ TEST(Parameters, StartWithTheirDefaultsAndLimits) {
   const PF_ParamDef& q = instance.effect->Value(6);
   EXPECT_EQ(q.u.fd.valid_min, 66);
   EXPECT_EQ(q.u.fd.value, 6554);
-  const PF_ParamDef& colorMap = instance.effect->Value(12);
-  EXPECT_EQ(colorMap.ui_flags, 130);
-  EXPECT_EQ(colorMap.ui_width, 306);
-  EXPECT_EQ(colorMap.ui_height, 130);
+  const std::array<size_t, 3> kDrawn[] = {{12, 306, 130}, {57, 300, 15}};
+  for (const auto& [index, width, height] : kDrawn) {
+    const PF_ParamDef& row = instance.effect->Value(index);
+    EXPECT_EQ(row.ui_flags, 130) << index;
+    EXPECT_EQ(static_cast<size_t>(row.ui_width), width) << index;
+    EXPECT_EQ(static_cast<size_t>(row.ui_height), height) << index;
+  }
+}
+
+struct SliderCase {
+  size_t index;
+  double first, last;
+  int digits;
+};
+
+TEST(Parameters, SlidersSpanWhatTheUserMostlyWants) {
+  constexpr SliderCase kCases[] = {
+      {5, 0, 5, 1},  {6, 66.0 / 65536, 1, 3}, {7, 0, 5, 1},       {10, 0, 5, 1},   {16, 20, 100, 0},
+      {25, 0, 3, 2}, {39, -100, 100, 1},      {40, -100, 100, 1}, {53, 0, 100, 1}, {56, 1, 60, 2},
+  };
+  Instance instance(0.1);
+  for (const SliderCase& c : kCases) {
+    const PF_FixedSliderDef& slider = instance.effect->Value(c.index).u.fd;
+    EXPECT_EQ(slider.slider_min, c.first * 65536) << c.index;
+    EXPECT_EQ(slider.slider_max, c.last * 65536) << c.index;
+    EXPECT_EQ(slider.precision, c.digits) << c.index;
+    EXPECT_EQ(slider.display_flags == PF_ValueDisplayFlag_PERCENT, c.index == 16) << c.index;
+  }
+  const PF_SliderDef& segments = instance.effect->Value(15).u.sd;
+  EXPECT_EQ(std::pair(segments.slider_min, segments.slider_max), std::pair(4, 50));
 }
 
 using Greyed = std::set<size_t>;

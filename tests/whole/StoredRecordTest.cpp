@@ -120,7 +120,9 @@ TEST(StoredRecord, TooSmallARecordIsRefusedWhereItIsNeeded) {
   for (const PF_Cmd cmd : {PF_Cmd_SEQUENCE_FLATTEN, PF_Cmd_GET_FLATTENED_SEQUENCE_DATA}) {
     EXPECT_EQ(instance.Send(cmd).error, PF_Err_INTERNAL_STRUCT_DAMAGED) << cmd;
   }
-  EXPECT_TRUE(instance.Point(PF_Event_DO_CLICK, {175, 8}).ShowsMessage());
+  const CommandResult press = instance.Point(PF_Event_DO_CLICK, {175, 8});
+  EXPECT_TRUE(press.ShowsMessage());
+  EXPECT_EQ(press.error, PF_Err_NONE) << "told once: the host has nothing to add";
   EXPECT_EQ(instance.lastEvent.u.do_click.send_drag, 0);
 }
 
