@@ -78,6 +78,7 @@ class ControlPane : public PopupContextMenuDelegate {
   virtual void SetBounds(const Rect& newBounds);
   virtual Rect GetBounds() const;
   virtual WindowContext* GetWindowContext();
+  // The size stays: at the end of the numbers a control goes no further.
   virtual void MoveToPoint(const Point& point);
   virtual void MoveTo(int32_t x, int32_t y);
   virtual void MoveBy(int32_t dx, int32_t dy);

@@ -45,9 +45,8 @@ void ControlPane::DragMove(WindowContext* /*context*/, const Point& point) {
   if (trackingMode != kTrackMove || owner == nullptr) return;
   Point target = point;
   LocalToOwnerPoint(&target);
-  const Rect size = GetLocalBounds();
   const Rect moved =
-      MovedBy(size, int64_t{target.x} - downPointLocal.x, int64_t{target.y} - downPointLocal.y);
+      MovedTo(bounds, MovedBy(target, -int64_t{downPointLocal.x}, -int64_t{downPointLocal.y}));
   StoreDraggedBounds(ShiftedInto(moved, owner->GetLocalBounds()), false);
 }
 

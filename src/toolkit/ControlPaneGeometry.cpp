@@ -1,5 +1,6 @@
 // Where a control stands, and the way between its three spaces.
 #include "toolkit/ControlPane.h"
+#include "toolkit/PopupPlacement.h"
 #include "toolkit/RectAlgebra.h"
 
 void ControlPane::SetBounds(const Rect& newBounds) {
@@ -15,11 +16,11 @@ void ControlPane::MoveToPoint(const Point& point) {
 }
 
 void ControlPane::MoveTo(int32_t x, int32_t y) {
-  MoveBy(SaturatedInt(int64_t{x} - bounds.left), SaturatedInt(int64_t{y} - bounds.top));
+  bounds = MovedTo(bounds, {x, y});
 }
 
 void ControlPane::MoveBy(int32_t dx, int32_t dy) {
-  bounds = MovedBy(bounds, dx, dy);
+  MoveTo(SaturatedInt(int64_t{bounds.left} + dx), SaturatedInt(int64_t{bounds.top} + dy));
 }
 
 Rect ControlPane::GetGlobalBounds() const {

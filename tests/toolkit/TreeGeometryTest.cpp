@@ -10,6 +10,7 @@ namespace {
 
 constexpr int32_t kMin = std::numeric_limits<int32_t>::min();
 constexpr int32_t kMax = std::numeric_limits<int32_t>::max();
+constexpr int32_t kFar = kMax - 20;
 
 struct DragCase {
   const char* what;
@@ -22,7 +23,7 @@ struct DragCase {
 constexpr DragCase kDragCases[] = {
     {"moved", kTrackMove, 0, {10, 10, 60, 40}, {7, -3}, {17, 7, 67, 37}},
     {"left and above", kTrackMove, 0, {10, 10, 60, 40}, {-90, -90}, {0, 0, 50, 30}},
-    {"right and below", kTrackMove, 0, {10, 10, 60, 40}, {900, 900}, {150, 70, 200, 100}},
+    {"right and below", kTrackMove, 0, {10, 10, 60, 40}, {kFar, kFar}, {150, 70, 200, 100}},
     {"wider than the owner", kTrackMove, 0, {0, 0, 250, 30}, {20, 0}, {-50, 0, 200, 30}},
     {"not at all", kTrackMove, 0, {10, 10, 60, 40}, {0, 0}, {10, 10, 60, 40}},
     {"left edge", kTrackResize, 0, {20, 20, 60, 50}, {-5, 9}, {15, 20, 60, 50}},
@@ -159,6 +160,11 @@ TEST(TreeGeometry, EndsOfTheNumbersStayInRange) {
         pane.ApplyAnchors();
         root.MouseDownAt({b, c});
         root.MouseDrag({a, a}, 0, 0, {}, kLeftButton);
+        ControlPane away(nullptr, {10, 20, 40, 60});
+        away.MoveBy(a, b);
+        away.MoveTo(c, a);
+        away.MoveTo(10, 20);
+        EXPECT_EQ(away.GetBounds(), (Rect{10, 20, 40, 60})) << a << ' ' << b << ' ' << c;
         const Rect shown = root.window.GetInvalidRect();
         EXPECT_EQ(UnionOf(shown, root.GetBounds()), root.GetBounds()) << a << ' ' << b << ' ' << c;
       }
