@@ -37,6 +37,7 @@ bool EnsureScreenBuffer(int32_t width, int32_t height) {
   const int32_t wantedWidth = std::max(width, buffer.Width());
   const int32_t wantedHeight = std::max(height, buffer.Height());
   if (wantedWidth == buffer.Width() && wantedHeight == buffer.Height()) return false;
+  if (wantedWidth < 1 || wantedHeight < 1) return false;
   MakeScreenBuffer(wantedWidth, wantedHeight);
   return true;
 }

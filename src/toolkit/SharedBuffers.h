@@ -16,7 +16,7 @@ ImageBuffer* ScratchBuffer();
 NativeImageBuffer& MakeScreenBuffer(int32_t width, int32_t height);
 
 // Makes a screen buffer at least as large as a panel, and as the one before it. False where that
-// one will do.
+// one will do, or where there is nothing to hold.
 bool EnsureScreenBuffer(int32_t width, int32_t height);
 
 // Makes drawing in the screen buffer take logical coordinates, of so many pixels each, and text be

@@ -163,6 +163,15 @@ TEST(TreePaint, OnlyWhatShowsIsPainted) {
   EXPECT_EQ(stage.Heard(), "");
 }
 
+TEST(TreePaint, APanelOfNoSizeMakesNoBuffer) {
+  DestroyScreenBuffer();
+  for (const Rect& place : {Rect{0, 0, 0, 10}, Rect{0, 0, 10, 0}, Rect{5, 5, 0, 0}}) {
+    Stage stage;
+    const Panel root(stage, place);
+    EXPECT_EQ(ScreenBuffer(), nullptr);
+  }
+}
+
 TEST(TreePaint, DirtyControlsAreCollectedOnceAndTogether) {
   Stage stage;
   Panel root(stage, {100, 100, 200, 200});
