@@ -66,8 +66,8 @@ bool TopControlPane::RightMouseDown(const Point& point, const Modifiers& modifie
   if (self && hit && windowContext != nullptr) {
     hit->OnRightMouseDown(windowContext, InSpaceOf(*hit.Get(), point));
   }
-  // Nothing is captured, so no release will end it.
-  if (hit) hit->SetTrackingMode(kTrackNone);
+  // No release will end it, unless the other button holds it already.
+  if (self && hit && hit.Get() != GetCapture()) hit->SetTrackingMode(kTrackNone);
   if (self && hit) OpenContextMenu(hit.Get(), point);
   return true;
 }

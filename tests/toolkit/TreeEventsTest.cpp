@@ -103,6 +103,9 @@ const EventCase kEventCases[] = {
     {"an open popup alone is asked for the cursor", "Pp |  Hx Hp",
      "=0 9.OnMouseEnter 0.OnMouseEnter 9.GetCursorAt =0 "},
     {"the right button captures nothing", "Rx Mb Ux", "3.OnRightMouseDown 0.OnCaptureLost "},
+    {"nor does it take the release away", "Db Rb Ub",
+     "0.OnCaptureGained 1.OnMouseDown 1.OnRightMouseDown 1.OnMouseUp 1.EndTracking "
+     "0.OnCaptureLost "},
     {"idling goes by the clock, and brings a waiting key", "F  |  I\x19 Y  I\x01 I\x19",
      "3.OnIdle 2.OnIdle 1.OnIdle 0.OnIdle 1.OnKeyDown "},
 };
