@@ -1,8 +1,6 @@
 // What the root holds for its tree: the window, the buffers, the open popup, idling and updates.
 #include "toolkit/TopControlPane.h"
 
-#include <algorithm>
-
 #include "toolkit/ChildWalk.h"
 #include "toolkit/Clock.h"
 #include "toolkit/SharedBuffers.h"
@@ -88,10 +86,8 @@ void TopControlPane::Forget(const ControlPane* control) {
   for (ControlWatch& entry : focusRing) {
     if (leaves(entry)) entry = nullptr;
   }
-  // From the hit control upward: what leaves stands in front of the control that leaves.
-  const auto place = std::find_if(hoverSet.begin(), hoverSet.end(),
-                                  [control](const auto& entry) { return entry.Get() == control; });
-  if (place != hoverSet.end()) hoverSet.erase(hoverSet.begin(), std::next(place));
+  // What is under it stays, to hear at the next move that the pointer has left.
+  std::erase_if(hoverSet, [control](const auto& entry) { return entry.Get() == control; });
 }
 
 bool TopControlPane::Belongs(const ControlPane* control) const {

@@ -162,7 +162,7 @@ class Panel : public Recording<CustomPanel> {
   }
   bool MouseDownAt(const Point& point) { return MouseDown(point, {}, false, kLeftButton); }
 
-  using TopControlPane::hoverOwner, TopControlPane::hoverSet;
+  using TopControlPane::hoverOwner;
 
   RecordingWindow window;
 };

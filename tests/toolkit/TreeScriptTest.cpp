@@ -35,9 +35,6 @@ class Script {
     for (ControlPane* held : {root->GetCapture(), root->GetFocus(), root->hoverOwner.Get()}) {
       if (held != nullptr && !root->Belongs(held)) return "the root holds a control of no tree";
     }
-    for (const ControlWatch& hovered : root->hoverSet) {
-      if (hovered && !root->Belongs(hovered.Get())) return "a control of no tree is hovered";
-    }
     for (ControlPane* pane : stage.alive) {
       for (int32_t index = 0; index < pane->GetChildCount(); ++index) {
         ControlPane* const child = pane->GetChildAt(index);
