@@ -17,7 +17,8 @@
 #include "toolkit/QvButton.h"
 
 // Holds no map of its own: one panel serves all instances of the effect, and each event brings the
-// map to work on and the callbacks for it. Any callback may delete the panel.
+// map to work on and the callbacks for it. Any callback may delete the panel, but for the questions
+// canPaste, canUndo and canRedo.
 class GradientPanel : public CustomPanel,
                       public UndoRedoListener,
                       public QvPresetListener,

@@ -3,6 +3,7 @@
 
 #include <memory>
 
+#include "gradient/PanelChildren.h"
 #include "gradient/QvPresetDropDown.h"
 
 namespace {
@@ -18,9 +19,7 @@ GraphPresetPanel::GraphPresetPanel(ControlPane* ownerPane, const Rect& initialBo
   const Rect area = GetLocalBounds();
   const Rect place = {area.left + kSideMargin, area.top, area.right - kSideMargin,
                       area.top + kDropDownHeight};
-  auto dropDown = std::make_unique<QvPresetDropDown>(this, place);
+  auto* const dropDown = AddTo(*this, std::make_unique<QvPresetDropDown>(this, place));
   dropDown->SetSource(source);
   dropDown->SetListener(listener);
-  AddChild(dropDown.get(), true);
-  static_cast<void>(dropDown.release());
 }

@@ -1,10 +1,10 @@
 // The group of the buttons undo, redo and reset.
 #include "gradient/UndoRedoPanel.h"
 
-#include <memory>
 #include <string>
 
 #include "gradient/EnabledState.h"
+#include "gradient/PanelChildren.h"
 #include "gradient/PanelIcon.h"
 #include "platform/Truncate.h"
 
@@ -16,16 +16,14 @@ constexpr int32_t kUndoId = 302;
 constexpr int32_t kButtonSide = 16;
 
 // name   of the icons' files, before what tells the state
-QvIconButton* AddButton(ControlPane& group, const Point& place, int32_t id,
-                        const std::string& name) {
+QvIconButton* AddIconButton(ControlPane& group, const Point& place, int32_t id,
+                            const std::string& name) {
   const Rect bounds = {place.x, place.y, place.x + kButtonSide, place.y + kButtonSide};
-  auto button = std::make_unique<QvIconButton>(&group, bounds, nullptr, false, nullptr);
-  button->SetId(id);
+  auto* const button = AddButton<QvIconButton>(group, bounds, id, "");
   button->SetIcon(kButtonDisabled, LoadPanelIcon((name + "_Disabled.png").c_str()).release());
   button->SetIcon(kButtonNormal, LoadPanelIcon((name + "_Normal.png").c_str()).release());
   button->SetIcon(kButtonOver, LoadPanelIcon((name + "_Over.png").c_str()).release());
-  group.AddChild(button.get(), true);
-  return button.release();
+  return button;
 }
 
 }  // namespace
@@ -38,12 +36,12 @@ UndoRedoPanel::UndoRedoPanel(ControlPane* ownerPane, const Rect& initialBounds,
   const auto top = Truncate<int32_t>(area.bottom * 0.5 - 8.0);
   const int32_t redoLeft = gap / 2 + kButtonSide;
   if (withUndoRedo) {
-    undoButton = AddButton(*this, {0, top}, kUndoId, "Undo");
+    undoButton = AddIconButton(*this, {0, top}, kUndoId, "Undo");
     undoButton->SetEnabled(false);
-    redoButton = AddButton(*this, {redoLeft, top}, kRedoId, "Redo");
+    redoButton = AddIconButton(*this, {redoLeft, top}, kRedoId, "Redo");
     redoButton->SetEnabled(false);
   }
-  resetButton = AddButton(*this, {redoLeft + gap + kButtonSide, top}, kResetId, "Reset");
+  resetButton = AddIconButton(*this, {redoLeft + gap + kButtonSide, top}, kResetId, "Reset");
 }
 
 void UndoRedoPanel::NotifyPressed(ControlPane* source) {
