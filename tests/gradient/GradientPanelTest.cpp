@@ -87,17 +87,19 @@ TEST(GradientPanel, ButtonsCallInTheirOrderAndDisabledOnesNot) {
 }
 
 TEST(GradientPanel, AChosenPresetIsTheMapAndLeavingTheMenuOnlyPushes) {
-  const std::vector<std::vector<int>> positions = {
-      {0, 50, 100, 150, 200}, {0, 200},  {0, 50, 200},
-      {0, 50, 100, 150, 200}, {50, 150}, {25, 100, 200}};
+  std::vector<Stop> presets[] = {
+      {{0, 1, 0, 0}, {50, 1, 1, 0}, {100, 0, 1, 0}, {150, 0, 1, 1}, {200, 0, 0, 1}},
+      {{0, 1, 1, 1}, {200, 0, 0, 0}},
+      {{0, 1, 1, 1}, {50, 0, 1, 1}, {200, 0, 0, 1}},
+      {{0, 1, 1, 0}, {50, 1, 0, 0}, {100, 1, .5, .75}, {150, 1, .5, 1}, {200, .63F, 0, 1}},
+      {{50, 0, 1, 0}, {150, 0, .5, 0}},
+      {{25, 0, 0, 0}, {100, .5, .5, .75}, {200, 1, 1, 1}}};
   for (int32_t preset = 0; preset < 6; ++preset) {
     Editor editor({StoredMap(kStops)});
     editor.Choose(preset);
-    const GradientRecord& map = (*editor.map);
-    const std::vector<int>& expected = positions[static_cast<size_t>(preset)];
-    for (size_t i = 0; i < 50; ++i) {
-      EXPECT_EQ(map.stopPosition[i], i < expected.size() ? expected[i] : 255) << preset;
-    }
+    presets[preset].resize(50, {255, 0, 0, 0});
+    StoredMap expected(presets[preset]);
+    EXPECT_TRUE(Same(TakeSnapshot(GradientView(expected.Record())), editor.Stops())) << preset;
     EXPECT_TRUE(editor.RampIsThatOfItsStops()) << preset;
     EXPECT_EQ(editor.calls, "pg") << preset;
     // Press on a row, release beside the list.
