@@ -1,9 +1,13 @@
-// Catches a strip or a menu that shows other colours than the map has, or shows them elsewhere.
+// Catches a strip or a menu that shows other colours than the map has, or shows them elsewhere, and
+// controls that don't show their state.
 #include <gtest/gtest.h>
 
 #include <limits>
 
+#include "drawing/Labeler.h"
 #include "drawing/SharedPainter.h"
+#include "gradient/GradientStops.h"
+#include "gradient/PanelIcon.h"
 #include "gradient/RampColor.h"
 #include "tests/gradient/Editor.h"
 
@@ -14,6 +18,26 @@ ColorBGRA At(const ImageBuffer& picture, int32_t x, int32_t y) {
   const int32_t column = 2 * x;
   return picture.Row(2 * y)[column];
 }
+
+// A picture of the panel, drawn plainly.
+struct PlainPanel : ImageBuffer {
+  PlainPanel() {
+    Allocate(612, 260, false);
+    SetScale(2.0F);
+    SetScaleAware(true);
+    FillRect({0, 0, 306, 130}, Gray(36), 256, nullptr);
+  }
+
+  // Logical pixels.
+  bool EqualsIn(const Rect& area, const ImageBuffer& picture) const {
+    const Rect part = ToPhysical(area);
+    for (int32_t y = part.top; y < part.bottom; ++y) {
+      const ColorBGRA* const row = picture.Row(y);
+      if (!std::equal(row + part.left, row + part.right, Row(y) + part.left)) return false;
+    }
+    return true;
+  }
+};
 
 Rect MovedToStrip(const Rect& rect) {
   const Point origin = Editor::OnStrip(0, 0);
@@ -28,7 +52,6 @@ void DrawPlainly(const GradientRecord& map, bool enabled, ImageBuffer& picture) 
     SharedRasterizer().DrawPath(SharedPath(), picture, color, shown, false, &strip, nullptr,
                                 lineWidth);
   };
-  picture.FillRect(strip, Gray(36), 256, nullptr);
   picture.FillRect(MovedToStrip({2, 0, 207, 18}), Gray(0), opacity, nullptr);
   for (int32_t i = 0; i < 201; ++i) {
     const double x = strip.left + 4.0 + i;
@@ -52,7 +75,19 @@ void DrawPlainly(const GradientRecord& map, bool enabled, ImageBuffer& picture) 
   draw(Gray(59), enabled ? 256 : 150, 1.0);
 }
 
-TEST(GradientLook, TheStripEqualsOneThatIsDrawnLineByLine) {
+constexpr Rect kPresetsBar = {230, 30, 304, 48};
+
+void DrawPresetsBar(bool enabled, ImageBuffer& picture) {
+  const ColorBGRA color = Gray(enabled ? 197 : 64);
+  picture.FillRect(kPresetsBar, Gray(23), enabled ? 255 : 60, nullptr);
+  SharedLabeler().SetFont(&FontSmall());
+  SharedLabeler().DrawStringInRect(picture, "PRESETS", {238, 30, 304, 48}, TextAlignment::kLeft,
+                                   {color, {}, true, nullptr, 256, 0});
+  SharedPath().SetRoundTriangle({286, 37}, {296, 37}, {291, 44}, 1.0);
+  SharedRasterizer().DrawPath(SharedPath(), picture, color, 256, false, nullptr, nullptr, 0);
+}
+
+TEST(GradientLook, TheStripAndTheBarEqualOnesThatAreDrawnLineByLine) {
   const float infinity = std::numeric_limits<float>::infinity();
   const std::vector<std::vector<Stop>> maps = {
       {{0, 1, 0, 0.3F}, {77, 0.1F, 1, 0}, {200, 0, 0.6F, 1}},
@@ -66,15 +101,42 @@ TEST(GradientLook, TheStripEqualsOneThatIsDrawnLineByLine) {
       editor.panel->SetEnabled(enabled);
       ImageBuffer picture;
       editor.PaintAlone(picture);
-      ImageBuffer plain;
-      plain.Allocate(612, 260, false);
-      plain.SetScale(2.0F);
-      plain.SetScaleAware(true);
+      PlainPanel plain;
       DrawPlainly((*editor.map), enabled, plain);
-      for (int32_t y = 58; y < 118; ++y) {
-        EXPECT_TRUE(std::equal(picture.Row(y) + 26, picture.Row(y) + 444, plain.Row(y) + 26))
-            << stops.size() << ' ' << enabled << " row " << y;
+      EXPECT_TRUE(plain.EqualsIn(MovedToStrip({0, 0, 209, 30}), picture))
+          << stops.size() << ' ' << enabled;
+      DrawPresetsBar(enabled, plain);
+      EXPECT_TRUE(plain.EqualsIn(kPresetsBar, picture)) << enabled;
+    }
+  }
+}
+
+TEST(GradientLook, UndoRedoAndResetShowTheIconsOfTheirState) {
+  struct Place {
+    std::string name;
+    Point button, icon;
+  };
+  const Place places[] = {{"Undo", Editor::kUndo, {238, 7}},
+                          {"Redo", Editor::kRedo, {258, 7}},
+                          {"Reset", Editor::kReset, {281, 6}}};
+  StoredMap map(uint8_t{0});
+  InitRecord(map.Record());
+  constexpr const char* kLooks[] = {"_Disabled.png", "_Normal.png", "_Over.png"};
+  for (int32_t look = 0; look < 3; ++look) {
+    for (const auto& [name, button, icon] : places) {
+      Editor editor({map});
+      if (look != 0) {
+        editor.Click(Editor::kFlip);
+        editor.global.redoSnapshot = new GradientSnapshot;
       }
+      editor.Over(look == 2 ? button : Editor::kFreePlace);
+      ImageBuffer picture;
+      editor.PaintAlone(picture);
+      PlainPanel plain;
+      LoadPanelIcon((name + kLooks[look]).c_str())
+          ->BlendTo(plain, {0, 0, 16, 16}, icon.x, icon.y, look == 0 ? 50 : 256, nullptr, false);
+      const Rect around = {button.x - 8, button.y - 8, button.x + 8, button.y + 8};
+      EXPECT_TRUE(plain.EqualsIn(around, picture)) << name << kLooks[look];
     }
   }
 }
