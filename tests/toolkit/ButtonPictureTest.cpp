@@ -2,6 +2,7 @@
 // for, or lose their pictures.
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <functional>
 #include <limits>
 #include <string>
@@ -85,6 +86,19 @@ TEST(ButtonPicture, EachPartStandsWhereItBelongs) {
     probe.dress(AddKind(panel, probe.kind));
     panel.Play(probe.script);
     EXPECT_EQ(panel.PixelAt(probe.x, probe.y), probe.expected) << probe.what;
+  }
+}
+
+TEST(ButtonPicture, ALabelHasTheColourOfTheStateAndIsFaintWhereDisabled) {
+  constexpr std::pair<const char*, uint32_t> kColours[] = {
+      {"", 0xFFC8C8C8}, {"d", 0xFFFAFAFA}, {"x", 0xFF9A9A9A}};
+  for (const auto& [script, color] : kColours) {
+    ButtonPanel panel;
+    panel.Add<QvButton>().SetLabels("HHH", "HHH");
+    panel.Play(script);
+    ImageBuffer picture;
+    panel.PaintPart(kPanelPlace, 1, picture);
+    EXPECT_GT(std::count(picture.Row(0), picture.Row(40), ColorBGRA(color)), 3 * 2 * 6) << script;
   }
 }
 
