@@ -72,9 +72,7 @@ int32_t TakeNumber(Words& words, const char* what, int32_t least, int32_t most) 
   return NumberFrom(words.Take(), what, least, most);
 }
 
-void TakePointer(Words& words, ScriptEvent& event) {
-  event.point.h = TakeNumber(words, "X", INT32_MIN, INT32_MAX);
-  event.point.v = TakeNumber(words, "Y", INT32_MIN, INT32_MAX);
+void TakeModifiers(Words& words, ScriptEvent& event) {
   while (words.AreLeft()) {
     const std::string_view word = words.Take();
     if (word == "shift") {
@@ -89,6 +87,17 @@ void TakePointer(Words& words, ScriptEvent& event) {
       Refuse(Shown(word) + " is none of shift, alt and ctrl, nor double behind a click");
     }
   }
+}
+
+void TakePointer(Words& words, ScriptEvent& event) {
+  event.point.h = TakeNumber(words, "X", INT32_MIN, INT32_MAX);
+  event.point.v = TakeNumber(words, "Y", INT32_MIN, INT32_MAX);
+  TakeModifiers(words, event);
+}
+
+void TakeKey(Words& words, ScriptEvent& event) {
+  event.number = TakeNumber(words, "CODE", 0, INT32_MAX);
+  TakeModifiers(words, event);
 }
 
 bool IsPicture(std::string_view name) {
@@ -142,11 +151,12 @@ struct EventWord {
   Kind kind;
   void (*take)(Words& words, ScriptEvent& event);
 };
-constexpr std::array<EventWord, 10> kEventWords = {{
+constexpr std::array<EventWord, 11> kEventWords = {{
     {"click", Kind::kClick, TakePointer},
     {"drag", Kind::kDrag, TakePointer},
     {"release", Kind::kRelease, TakePointer},
     {"move", Kind::kMove, TakePointer},
+    {"key", Kind::kKey, TakeKey},
     {"draw", Kind::kDraw, TakeNothing},
     {"snapshot", Kind::kSnapshot, TakeSnapshot},
     {"frame", Kind::kFrame, TakeFrame},
@@ -155,20 +165,35 @@ constexpr std::array<EventWord, 10> kEventWords = {{
     {"instance", Kind::kInstance, TakeInstance},
 }};
 
+bool IsAmong(std::span<const Kind> kinds, Kind kind) {
+  return std::find(kinds.begin(), kinds.end(), kind) != kinds.end();
+}
+
+// The words for events of these kinds, as a list to be read.
+std::string ListOfWords(std::span<const Kind> kinds) {
+  std::string list;
+  std::string_view last;
+  for (const EventWord& known : kEventWords) {
+    if (!IsAmong(kinds, known.kind)) continue;
+    if (!last.empty()) list.append(list.empty() ? "" : ", ").append(last);
+    last = known.word;
+  }
+  return list + " and " + std::string(last);
+}
+
 // text   without comment, not empty
-ScriptEvent EventFrom(std::string_view text) {
+ScriptEvent EventFrom(std::string_view text, std::span<const Kind> played) {
   Words words(text);
   const std::string_view word = words.Take();
   for (const EventWord& known : kEventWords) {
-    if (known.word != word) continue;
+    if (known.word != word || !IsAmong(played, known.kind)) continue;
     ScriptEvent event;
     event.kind = known.kind;
     known.take(words, event);
     if (words.AreLeft()) Refuse(Shown(words.Rest()) + " is more than " + Shown(word) + " takes");
     return event;
   }
-  Refuse(Shown(word) + " is none of click, drag, release, move, draw, snapshot, frame, pick, " +
-         "cancel and instance");
+  Refuse(Shown(word) + " is none of " + ListOfWords(played));
 }
 
 std::string ReadText(const std::filesystem::path& path) {
@@ -185,7 +210,8 @@ std::string ReadText(const std::filesystem::path& path) {
 
 }  // namespace
 
-std::vector<ScriptEvent> ReadEventScript(const std::filesystem::path& path) {
+std::vector<ScriptEvent> ReadEventScript(const std::filesystem::path& path,
+                                         std::span<const Kind> played) {
   std::vector<ScriptEvent> events;
   std::istringstream lines(ReadText(path));
   std::string line;
@@ -193,7 +219,7 @@ std::vector<ScriptEvent> ReadEventScript(const std::filesystem::path& path) {
     const std::string_view text = Trimmed(std::string_view(line).substr(0, line.find('#')));
     if (text.empty()) continue;
     try {
-      events.push_back(EventFrom(text));
+      events.push_back(EventFrom(text, played));
     } catch (const JobFailure& failure) {
       throw JobFailure(path.string() + ", line " + std::to_string(number) + ": " + failure.what() +
                        ".");

@@ -19,6 +19,12 @@
 
 namespace {
 
+using Kind = ScriptEvent::Kind;
+
+constexpr Kind kRowEvents[] = {Kind::kClick, Kind::kDrag,   Kind::kRelease,
+                               Kind::kMove,  Kind::kDraw,   Kind::kSnapshot,
+                               Kind::kFrame, Kind::kAnswer, Kind::kInstance};
+
 // A frame as the host keeps it: good until the effect asks for it anew.
 struct ShownFrame {
   int64_t number = 0;
@@ -77,25 +83,27 @@ class PanelReplay {
 
   void Replay(const ScriptEvent& event) {
     switch (event.kind) {
-      case ScriptEvent::Kind::kClick:
+      case Kind::kClick:
         return Row().Click(event.point, event.modifiers, event.clicks);
-      case ScriptEvent::Kind::kDrag:
+      case Kind::kDrag:
         return Row().Drag(event.point, event.modifiers);
-      case ScriptEvent::Kind::kRelease:
+      case Kind::kRelease:
         return Row().Release(event.point, event.modifiers);
-      case ScriptEvent::Kind::kMove:
+      case Kind::kMove:
         return Move(event);
-      case ScriptEvent::Kind::kDraw:
+      case Kind::kKey:  // none of a row's events
+        return;
+      case Kind::kDraw:
         Row().pane.Invalidate(nullptr);
         return Row().Draw();
-      case ScriptEvent::Kind::kSnapshot:
+      case Kind::kSnapshot:
         Row().DrawIfInvalid();
         return Add(event.file, PngOf(*rows[current].canvas));
-      case ScriptEvent::Kind::kFrame:
+      case Kind::kFrame:
         return Add(event.file, FrameOf(rows[current], event.frame.value_or(loudestFrame)));
-      case ScriptEvent::Kind::kAnswer:
+      case Kind::kAnswer:
         return Row().pane.colorAnswers.push_back(event.color);
-      case ScriptEvent::Kind::kInstance:
+      case Kind::kInstance:
         return Switch(event.number);
     }
   }
@@ -200,7 +208,7 @@ int RunPanel(const StageOptions& stageOptions, const PanelOptions& options) {
   }
   if (!options.keyframes.empty()) WriterFor("--keyframes", options.keyframes);
   std::vector<ScriptEvent> script;
-  if (!options.events.empty()) script = ReadEventScript(options.events);
+  if (!options.events.empty()) script = ReadEventScript(options.events, kRowEvents);
   const std::string layerName = options.audio.empty() ? "Solid" : options.audio.filename().string();
   const std::shared_ptr<const AudioClip> sound = SoundOf(options);
   Stage stage(stageOptions, layerName, sound);

@@ -33,6 +33,9 @@ struct BadScript {
 };
 const BadScript kBadScripts[] = {
     {"dance\n", "e.txt, line 1: \"dance\" is none of click"},
+    {"key 13",
+     "\"key\" is none of click, drag, release, move, draw, snapshot, frame, pick, cancel and "
+     "instance"},
     {"# one\n\nclick 1\n",
      "line 3: Y is a whole number from -2147483648 to 2147483647, not nothing"},
     {"click 2147483648 0\n", "line 1: X is a whole number"},
