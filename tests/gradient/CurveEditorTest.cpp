@@ -10,59 +10,59 @@ namespace {
 
 TEST(CurveEditor, AddsSelectsDragsAndDeletesPoints) {
   CurveEditor editor({0, 100, 200}, false);
-  editor.Press(50, 40);
+  editor.PressGraph(50, 40);
   EXPECT_EQ(editor.Actions(), "mouseDown ");
   EXPECT_EQ(editor.Calls(), "npg");
   EXPECT_EQ(editor.stored.Points(), (std::vector<float>{0, 50, 100, 200}));
   EXPECT_EQ(editor.stored.record.pointY[1], 0.6F);
-  editor.Drag(97, 130);  // too near the next one, and below the graph
-  editor.Drag(90, 25);
-  editor.Drag(-3000, 25);
+  editor.DragGraph(97, 130);  // too near the next one, and below the graph
+  editor.DragGraph(90, 25);
+  editor.DragGraph(-3000, 25);
   EXPECT_EQ(editor.stored.Points(), (std::vector<float>{0, 90, 100, 200}));
-  editor.Release();
+  editor.Release({});
   EXPECT_EQ(editor.stored.record.samples[90], editor.stored.record.pointY[1]);
   editor.Actions();
 
-  editor.Press(90 + 6, 25 + 4);  // within its area, which clears the selection
-  editor.Drag(60, 60);
+  editor.PressGraph(90 + 6, 25 + 4);  // within its area, which clears the selection
+  editor.DragGraph(60, 60);
   EXPECT_EQ(editor.Actions(), "clearSelection ");
   EXPECT_EQ(editor.stored.Points()[1], 90.0F);
-  editor.Release();
+  editor.Release({});
 }
 
 TEST(CurveEditor, DeletesPointsDownToThree) {
   CurveEditor editor({0, 100, 150, 200}, false);
-  editor.Press(50, 40);
+  editor.PressGraph(50, 40);
   editor.Key(65);
   editor.Key(127);
   EXPECT_EQ(editor.stored.Points(), (std::vector<float>{0, 100, 150, 200}));
   editor.Key(127);  // the selection went to the point before
   EXPECT_EQ(editor.stored.Points(), (std::vector<float>{100, 150, 200}));
-  editor.Press(150, 95);
+  editor.PressGraph(150, 95);
   editor.Key(127);
   EXPECT_EQ(editor.stored.Points().size(), 3U);
 }
 
 TEST(CurveEditor, DrawsFreehandWhateverThePointerDoes) {
   CurveEditor editor({}, true);
-  editor.Press(10, 80);
-  editor.Drag(50, 40);
-  editor.Drag(50, 1000);
-  editor.Drag(40, 40);
+  editor.PressGraph(10, 80);
+  editor.DragGraph(50, 40);
+  editor.DragGraph(50, 1000);
+  editor.DragGraph(40, 40);
   const float* const samples = editor.stored.record.samples;
   EXPECT_EQ(samples[45], 0.55F);  // the line there ran below the graph
   constexpr int32_t kFar = std::numeric_limits<int32_t>::max();
   editor.panel->MouseDrag({kFar, -kFar}, 0, 0, {}, kLeftButton);
   editor.panel->MouseDrag({-kFar - 1, kFar}, 0, 0, {}, kLeftButton);
-  editor.Release();
+  editor.Release({});
   EXPECT_EQ(samples[9], 0.0F);
   EXPECT_EQ(samples[10], 0.2F);
   EXPECT_EQ(samples[25], 0.35F);
   EXPECT_EQ(samples[40], 0.6F);
   EXPECT_TRUE(editor.stored.GuardsAreWhole());
   editor.Actions();
-  editor.Press(100, 50);
-  editor.Drag(100, 50);
+  editor.PressGraph(100, 50);
+  editor.DragGraph(100, 50);
   EXPECT_EQ(editor.Actions(), "mouseDown ");  // no sample became another
 }
 
@@ -70,10 +70,10 @@ TEST(CurveEditor, ARefusedPointIsNotDragged) {
   CurveEditor editor({0, 100, 200}, false);
   editor.Calls();
   for (int32_t i = 0; i < 25; ++i) editor.stored.record.pointX[i] = static_cast<float>(4 * i);
-  editor.Press(150, 50);
+  editor.PressGraph(150, 50);
   EXPECT_EQ(editor.Calls(), "n");
-  editor.Drag(20, 20);
-  editor.Release();
+  editor.DragGraph(20, 20);
+  editor.Release({});
   EXPECT_EQ(editor.stored.Points().size(), 25U);
   EXPECT_EQ(editor.stored.record.pointX[5], 20.0F);
 }
@@ -86,22 +86,25 @@ TEST(CurveEditor, ButtonsEditBetweenUndoAndNote) {
     const char* actions = "";
   };
   const ButtonCase cases[] = {
-      {kSmoothPlace, true, "pgn", "smooth "},
-      {kSmoothPlace, false, "pn", ""},
-      {kRandomizePlace, true, "pgn", "randomize "},
-      {kRandomizePlace, false, "pgn", "randomize "},
-      {kFlipPlace, false, "pgn", "flipX "},
-      {kCopyPlace, false, "gc", "clearSelection "},
-      {kPastePlace, false, "vg", " "},
-      {kCurveModePlace, true, "pn", ""},
-      {kCurveModePlace, false, "pn", ""},
-      {kFreehandModePlace, false, "pgn", "setFreeHandMode "},
-      {kResetPlace, true, "pgn", " "},
-      {kUndoPlace, false, "ug", "clearSelection "},
+      {CurveEditor::kSmooth, true, "pgn", "smooth "},
+      {CurveEditor::kSmooth, false, "pn", ""},
+      {CurveEditor::kRandomize, true, "pgn", "randomize "},
+      {CurveEditor::kRandomize, false, "pgn", "randomize "},
+      {CurveEditor::kFlip, false, "pgn", "flipX "},
+      {CurveEditor::kCopy, false, "gc", "clearSelection "},
+      {CurveEditor::kPaste, false, "vg", " "},
+      {CurveEditor::kCurveMode, true, "pn", ""},
+      {CurveEditor::kCurveMode, false, "pn", ""},
+      {CurveEditor::kFreehandMode, false, "pgn", "setFreeHandMode "},
+      {CurveEditor::kReset, true, "pgn", " "},
+      {CurveEditor::kUndo, false, "ug", "clearSelection "},
   };
   for (const ButtonCase& c : cases) {
     CurveEditor editor({0, 50, 100}, c.freehand);
     editor.stored.record.samples[7] = 0.5F;
+    editor.clipboard = editor.stored.record;
+    editor.undo = {editor.stored.record, editor.record.freehandFlags};
+    editor.Arm();
     editor.Click(c.place);
     EXPECT_EQ(editor.Calls(), c.calls) << c.place.x << ' ' << c.place.y;
     EXPECT_EQ(editor.Actions(), c.actions) << c.place.x << ' ' << c.place.y;
@@ -110,14 +113,12 @@ TEST(CurveEditor, ButtonsEditBetweenUndoAndNote) {
 
 TEST(CurveEditor, EveryEditCanBeUndone) {
   const std::function<void(CurveEditor&)> edits[] = {
-      [](CurveEditor& e) { e.Press(60, 30), e.Drag(70, 50), e.Release(); },
-      [](CurveEditor& e) { e.Click(kRandomizePlace); },
-      [](CurveEditor& e) { e.Click(kFlipPlace); },
-      [](CurveEditor& e) { e.Click(kSmoothPlace, true); },
-      [](CurveEditor& e) { e.Click(kResetPlace); },
-      [](CurveEditor& e) {
-        e.Click(kPresetsPlace), e.Click({265, 104});
-      },
+      [](CurveEditor& e) { e.PressGraph(60, 30), e.DragGraph(70, 50), e.Release({}); },
+      [](CurveEditor& e) { e.Click(CurveEditor::kRandomize); },
+      [](CurveEditor& e) { e.Click(CurveEditor::kFlip); },
+      [](CurveEditor& e) { e.Click(CurveEditor::kSmooth, {.shift = true}); },
+      [](CurveEditor& e) { e.Click(CurveEditor::kReset); },
+      [](CurveEditor& e) { e.Choose(2); },
   };
   for (const bool freehand : {true, false}) {
     for (size_t i = 0; i < std::size(edits); ++i) {
@@ -128,7 +129,7 @@ TEST(CurveEditor, EveryEditCanBeUndone) {
       edits[i](editor);
       const bool isSmooth = i == 3;
       EXPECT_EQ(editor.stored == before, isSmooth && !freehand) << freehand << ' ' << i;
-      editor.Click(kUndoPlace);
+      editor.Click(CurveEditor::kUndo);
       EXPECT_EQ(editor.stored, before) << freehand << ' ' << i;
     }
   }
@@ -147,9 +148,9 @@ TEST(CurveEditor, ShowsTheCurveOfTheModeInItsOwnWay) {
     editor.Arm();
     EXPECT_EQ(editor.panel->GetGraph().GetCurve(), &editor.record.curves[c.curve]) << c.mode;
     EXPECT_TRUE(editor.panel->GetGraph().IsFreehand()) << c.mode;
-    editor.Click(kCurveModePlace);
+    editor.Click(CurveEditor::kCurveMode);
     EXPECT_EQ(editor.record.freehandFlags, 0U) << c.mode;
-    editor.Click(kFreehandModePlace);
+    editor.Click(CurveEditor::kFreehandMode);
     EXPECT_EQ(editor.record.freehandFlags, c.flag) << c.mode;
     editor.record.freehandFlags = ~c.flag;
     editor.Arm();
@@ -159,14 +160,14 @@ TEST(CurveEditor, ShowsTheCurveOfTheModeInItsOwnWay) {
 
 TEST(CurveEditor, AnyCallMayDeleteThePanel) {
   const std::function<void(CurveEditor&)> events[] = {
-      [](CurveEditor& e) { e.Press(60, 30), e.Drag(70, 40), e.Release(), e.Key(127); },
-      [](CurveEditor& e) { e.Click(kRandomizePlace); },
-      [](CurveEditor& e) { e.Click(kCopyPlace), e.Click(kPastePlace); },
-      [](CurveEditor& e) { e.Click(kUndoPlace), e.Click(kResetPlace); },
-      [](CurveEditor& e) { e.Click(kFreehandModePlace), e.Click(kCurveModePlace); },
+      [](CurveEditor& e) { e.PressGraph(60, 30), e.DragGraph(70, 40), e.Release({}), e.Key(127); },
+      [](CurveEditor& e) { e.Click(CurveEditor::kRandomize); },
+      [](CurveEditor& e) { e.Click(CurveEditor::kCopy), e.Click(CurveEditor::kPaste); },
       [](CurveEditor& e) {
-        e.Click(kPresetsPlace), e.Click({265, 104});
+        e.Click(CurveEditor::kFlip), e.Click(CurveEditor::kUndo), e.Click(CurveEditor::kReset);
       },
+      [](CurveEditor& e) { e.Click(CurveEditor::kFreehandMode), e.Click(CurveEditor::kCurveMode); },
+      [](CurveEditor& e) { e.Choose(2); },
   };
   for (const auto& event : events) {
     for (int32_t last = 0; last < 9; ++last) {

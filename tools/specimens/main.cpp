@@ -1,11 +1,10 @@
 // Writes the pages of specimens as PNG files, each at both scales: specimens FOLDER
-#include <png.h>
-
 #include <cstdio>
 #include <filesystem>
 #include <string>
 #include <vector>
 
+#include "tools/specimens/DemoPicture.h"
 #include "tools/specimens/Pages.h"
 
 namespace {
@@ -31,26 +30,13 @@ const std::vector<Page> kPages = {
     {"glyphs", DrawGlyphsPage},
 };
 
-void Write(const ImageBuffer& picture, const std::filesystem::path& file) {
-  png_image image{};
-  image.version = PNG_IMAGE_VERSION;
-  image.width = static_cast<png_uint_32>(picture.Width());
-  image.height = static_cast<png_uint_32>(picture.Height());
-  image.format = PNG_FORMAT_BGRA;
-  if (png_image_write_to_file(&image, file.c_str(), 0, picture.Row(0), picture.RowBytes(),
-                              nullptr) == 0) {
-    throw std::filesystem::filesystem_error(image.message, file, {});
-  }
-  std::printf("%s\n", file.c_str());
-}
-
 void WritePage(const Page& page, int scale, const std::filesystem::path& folder) {
   ImageBuffer picture;
-  picture.Allocate(kWidth * scale, kHeight * scale, false);
-  picture.SetScale(static_cast<float>(scale));
-  picture.SetScaleAware(true);
+  MakeDemoPicture(picture, kWidth, kHeight, scale);
   page.draw(picture);
-  Write(picture, folder / (std::string(page.name) + "-" + std::to_string(scale) + "x.png"));
+  const auto file = folder / (std::string(page.name) + "-" + std::to_string(scale) + "x.png");
+  WriteDemoPicture(picture, file);
+  std::printf("%s\n", file.c_str());
 }
 
 }  // namespace
