@@ -123,7 +123,16 @@ void ComboPopupMenu::NotifyReleased(ControlPane* source) {
 void ComboPopupMenu::OnMouseDown(WindowContext* /*context*/, const Point& /*point*/) {
   pressed = true;
   SetDirty(true);
-  OpenList();
+  ToggleList();
+}
+
+void ComboPopupMenu::ToggleList() {
+  TopControlPane* const root = GetOwner() != nullptr ? GetTopOwnerPtr() : nullptr;
+  if (root == nullptr) return;
+  const ControlWatch self(this);
+  const bool wasOpen = GetMenu() != nullptr && GetMenu()->IsOpen();
+  root->HidePopup();
+  if (self && !wasOpen) OpenList();
 }
 
 void ComboPopupMenu::OnMouseUp(WindowContext* /*context*/, const Point& /*point*/) {

@@ -6,13 +6,14 @@
 #include <vector>
 
 #include "toolkit/PopupTextMenu.h"
+#include "toolkit/PopupToggle.h"
 #include "toolkit/TextEditor.h"
 
 // The field is edited as any; Up and Down bring the rows of the list into it one after the other.
-// A press on the arrow opens the list. The owner hears of a text that was kept or chosen
-// (NotifyReleased with this as its source), and may delete the control then. An open list itself
-// tells the root, as every list does, just before.
-class ComboPopupMenu : public PopupTextMenu {
+// A press on the arrow opens the list, or closes it. The owner hears of a text that was kept or
+// chosen (NotifyReleased with this as its source), and may delete the control then. An open list
+// itself tells the root, as every list does, just before.
+class ComboPopupMenu : public PopupTextMenu, public PopupToggle {
  public:
   // font   of the field and the rows; null means FontDefault
   ComboPopupMenu(ControlPane* ownerPane, const Rect& initialBounds, const Font* font = nullptr);
@@ -42,6 +43,7 @@ class ComboPopupMenu : public PopupTextMenu {
   class Field;
 
   TextEditor* GetField() const;
+  void ToggleList();
   bool IsText(const std::string& label) const;
 
   ControlWatch textField;

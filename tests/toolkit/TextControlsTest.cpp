@@ -89,8 +89,10 @@ TEST(ComboPopupMenu, KeysAndTheListBringRowsIntoTheField) {
   combo.SetLabels({"a", "b"});
   std::vector<ControlPane*> heard;
   panel.onReleased = [&](ControlPane* source) { heard.push_back(source); };
-  panel.Click({95, 10});
-  ASSERT_EQ(panel.GetPopup(), combo.GetList());
+  for (const bool open : {true, false, true}) {
+    panel.Click({95, 10});
+    ASSERT_EQ(panel.GetPopup(), open ? combo.GetList() : nullptr);
+  }
   const Rect row = combo.GetList()->GetRowRect(1);
   const Rect list = combo.GetList()->GetBounds();
   panel.Click({list.left + row.left, list.top + row.top});
