@@ -13,6 +13,11 @@ constexpr int32_t kDisabledOpacity = 120;
 
 }  // namespace
 
+void Divider::SetEnabled(bool enabled) {
+  ControlPane::SetEnabled(enabled);
+  SetDirty(true);
+}
+
 void Divider::Paint(const Rect& rect, ImageBuffer& buffer, const Point& position) {
   const PaintArea area = AreaInBuffer(GetLocalBounds(), rect, position);
   const int32_t strength = IsEnabled() ? kOpaque : kDisabledOpacity;

@@ -8,6 +8,7 @@ class Divider : public ControlPane {
  public:
   using ControlPane::ControlPane;
 
+  void SetEnabled(bool enabled) override;
   void Paint(const Rect& rect, ImageBuffer& buffer, const Point& position) override;
   bool ContainsLocalPoint(const Point& point) const override;
 };

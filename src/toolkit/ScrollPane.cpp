@@ -43,6 +43,11 @@ void ScrollPane::SetBounds(const Rect& newBounds) {
   LayOut();
 }
 
+void ScrollPane::SetEnabled(bool enabled) {
+  ControlPane::SetEnabled(enabled);
+  SetDirty(true);
+}
+
 void ScrollPane::OnControlChanged(ControlPane* /*source*/) {
   Point offset = GetView() != nullptr ? GetView()->GetOffset() : Point{};
   if (GetBar(ScrollAxis::kHorizontal) != nullptr) {
@@ -130,6 +135,7 @@ void ScrollPane::ShowBar(ScrollAxis axis) {
   ScrollBar* const bar = GetBar(axis);
   if (bar == nullptr || ContainsChild(bar) == Of(axis).shown) return;
   if (Of(axis).shown) {
+    bar->SetState(GetState());  // which passed it by while it was no child
     AddChild(bar, true);
   } else {
     RemoveChild(bar);

@@ -26,6 +26,7 @@ class ScrollPane : public ControlPane, public StockListener {
   ~ScrollPane() override;
 
   void SetBounds(const Rect& newBounds) override;
+  void SetEnabled(bool enabled) override;
   void OnControlChanged(ControlPane* source) override;
 
   // As of ViewPane; the pane is laid out anew.

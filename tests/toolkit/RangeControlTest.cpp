@@ -112,6 +112,9 @@ TEST(ScrollPane, BarsComeAndGoWithTheContentAndTakeTheirRoom) {
     EXPECT_EQ(pane.GetView()->GetOffset(), Point());
     const bool stays = c.policy == kBarAlways;
     EXPECT_EQ(pane.ContainsChild(pane.GetBar(ScrollAxis::kVertical)), stays) << c.content.x;
+    pane.SetEnabled(false);
+    pane.SetBounds({0, 0, 5, 5});
+    EXPECT_FALSE(pane.GetBar(ScrollAxis::kVertical)->IsEnabled()) << "comes back as the pane is";
   }
   const ScrollPane bare(nullptr, {0, 0, 100, 80}, 0, -3);
   EXPECT_TRUE(bare.GetBar(ScrollAxis::kVertical) == nullptr &&

@@ -120,6 +120,18 @@ TEST(StockKinds, AnyEventOnAnyBoundsLeavesTheTreeWhole) {
   }
 }
 
+TEST(StockKinds, BeingDisabledAndEnabledWantsARepaint) {
+  for (const Kind& kind : kKinds) {
+    StockStage stage;
+    kind.add(stage, kStockPlace);
+    for (const bool enabled : {false, true}) {
+      stage.ClearDirtyTree();
+      stage.GetFirstChild()->SetEnabled(enabled);
+      EXPECT_TRUE(stage.GetFirstChild()->IsDirty()) << kind.name << enabled;
+    }
+  }
+}
+
 // The address sanitizer sees what a deleted control touches.
 TEST(StockKinds, WhoeverIsToldMayDeleteTheControl) {
   for (const Kind& kind : kKinds) {
