@@ -2,7 +2,6 @@
 #include "gradient/CurveGraph.h"
 
 #include <algorithm>
-#include <cmath>
 
 #include "gradient/CurveChain.h"
 #include "gradient/CurvePoints.h"
@@ -95,7 +94,8 @@ void CurveGraph::DragMove(WindowContext* /*context*/, const Point& point) {
 }
 
 // One column after the other from a place to another; tells whether a sample became another. What
-// lies beside the graph is left out, so that it takes no time.
+// lies beside the graph is left out, so that it takes no time. A row is rounded towards 0: the one
+// above the graph counts as its first.
 bool CurveGraph::DrawLine(const Point& from, const Point& to) {
   const double across = static_cast<double>(to.x) - from.x;
   const double down = static_cast<double>(to.y) - from.y;
@@ -106,7 +106,7 @@ bool CurveGraph::DrawLine(const Point& from, const Point& to) {
   for (int32_t x = first; x <= last; ++x) {
     const double exact =
         across == 0.0 ? to.y : from.y + (static_cast<double>(x) - from.x) * (down / across);
-    const auto row = Truncate<int32_t>(std::floor(exact + 0.5));
+    const auto row = Truncate<int32_t>(exact + 0.5);
     if (row < 0 || row >= height) continue;
     const float value = ValueAt(row, height);
     changed = changed || curve->samples[x] != value;

@@ -64,6 +64,10 @@ TEST(CurveEditor, DrawsFreehandWhateverThePointerDoes) {
   editor.PressGraph(100, 50);
   editor.DragGraph(100, 50);
   EXPECT_EQ(editor.Actions(), "mouseDown ");  // no sample became another
+  for (const int32_t y : {50, -1, 50, -2}) editor.DragGraph(101, y);
+  EXPECT_EQ(samples[101], 0.5F);
+  editor.DragGraph(101, -1);
+  EXPECT_EQ(samples[101], 1.0F);
 }
 
 TEST(CurveEditor, ARefusedPointIsNotDragged) {
