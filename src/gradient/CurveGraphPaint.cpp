@@ -22,6 +22,8 @@ constexpr double kCornerRadius = 2.0;
 constexpr double kFilled = 0.0;
 constexpr double kOutlineWidth = 1.0;
 constexpr double kLineWidth = 1.5;
+constexpr double kTolerance = 0.25;  // of the line's chords, logical pixels
+constexpr int32_t kDepthLimit = 12;
 constexpr int32_t kMarkReach = 3;
 constexpr int32_t kOpacity = 255;
 constexpr int32_t kDisabledOpacity = 64;
@@ -37,6 +39,30 @@ void Draw(ImageBuffer& buffer, ColorBGRA color, int32_t opacity, const Rect& cli
 PathPoint OnStroke(const PathPoint& point, const Rect& bounds) {
   return {point.x + bounds.left, point.y + bounds.top - kLineWidth / 2};
 }
+
+// Held to the graph as the samples are: where the chain swings out, the line runs along the edge.
+class LineOfChain : public Bezier3 {
+ public:
+  LineOfChain(PathBuilder& linePath, const Rect& graphBounds, int32_t graphHeight)
+      : path(linePath), bounds(graphBounds), height(graphHeight) {}
+
+  void Add(const CurveChain& chain) {
+    path.MoveTo(Held(chain.segments[0][0]));
+    for (size_t i = 0; i < chain.count; ++i) Flatten(chain.segments[i], kTolerance, kDepthLimit);
+  }
+
+ protected:
+  void AddFlattenedPoint(const PathPoint& point) override { path.LineTo(Held(point)); }
+
+ private:
+  PathPoint Held(const PathPoint& point) const {
+    return OnStroke({point.x, std::clamp(point.y, 0.0, static_cast<double>(height))}, bounds);
+  }
+
+  PathBuilder& path;
+  Rect bounds;
+  int32_t height;
+};
 
 // Dark outside and light inside, so that the ground seems to lie lower than the panel.
 void DrawGround(const PaintArea& area, ImageBuffer& buffer) {
@@ -82,12 +108,7 @@ void CurveGraph::PaintCurve(const PaintArea& area, int32_t shownOpacity,
   if (chain.count == 0) return;
   PathBuilder& path = SharedPath();
   path.Clear();
-  path.MoveTo(OnStroke(chain.segments[0][0], area.bounds));
-  for (size_t i = 0; i < chain.count; ++i) {
-    const Cubic& segment = chain.segments[i];
-    path.CubicTo(OnStroke(segment[1], area.bounds), OnStroke(segment[2], area.bounds),
-                 OnStroke(segment[3], area.bounds));
-  }
+  LineOfChain(path, area.bounds, Height()).Add(chain);
   path.ClosePath();
   Draw(buffer, kLine, shownOpacity, area.clip, kLineWidth);
 }

@@ -2,6 +2,8 @@
 // go on with a panel that a listener has deleted.
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <cmath>
 #include <limits>
 
 #include "tests/gradient/CurveEditor.h"
@@ -183,6 +185,26 @@ TEST(CurveEditor, AnyCallMayDeleteThePanel) {
       event(editor);
       EXPECT_EQ(editor.panel == nullptr, count > last);
       EXPECT_LE(count, last + 1);
+    }
+  }
+}
+
+TEST(CurveEditor, TheLineShowsBetweenPointsWhereverTheCurveSwings) {
+  for (const std::vector<float>& points : {std::vector<float>{0, 20, 40, 180, 200}, {0, 60, 200}}) {
+    CurveEditor editor(points, false);
+    for (size_t i = 0; i < points.size(); ++i) {
+      editor.stored.record.pointY[i] = i % 4 == 0 ? 0.0F : 1.0F;
+    }
+    ImageBuffer picture;
+    picture.Allocate(306, 184, false);
+    editor.Paint(picture, {0, 0});
+    for (int32_t x = 22; x < 220; ++x) {
+      const auto position = static_cast<float>(x - 21);
+      const auto hides = [position](float point) { return std::abs(position - point) < 5; };
+      if (std::any_of(points.begin(), points.end(), hides)) continue;
+      uint8_t brightest = 0;
+      for (int32_t y = 28; y < 128; ++y) brightest = std::max(brightest, picture.Row(y)[x].red);
+      EXPECT_GT(brightest, 100) << x;
     }
   }
 }
