@@ -22,8 +22,8 @@ struct BarPlan {
   bool isColoredByRow = false;  // the colours along the height take the place of `colors`
   bool hasGaps = false;
   Quantization quantization;
-  std::array<ColumnSpan, kBandCount> bandGaps{};
-  ColumnSpan rowGap;
+  BandGaps bandGaps{};
+  ColumnStretch rowGap;
 };
 
 PF_Pixel RampColor(const GradientRecord& colorMap, int32_t index) {
@@ -72,27 +72,68 @@ BarPlan MakeBarPlan(const OutputWorld& world, const GraphLayout& layout,
   plan.heights = ComputeBarHeights(layout, plan, levels);
   plan.colors = ComputeBandColors(settings, colorMap);
   plan.isColoredByRow = settings.colormap && settings.gradient != kGradientHorizontal;
-  plan.bandGaps = BandGaps(world, layout);
-  plan.rowGap = RowGap(world, layout);
+  plan.bandGaps = BandGapsOf(world, layout);
+  plan.rowGap = RowGapOf(world, layout);
   return plan;
 }
 
-void DrawBarRow(const OutputWorld& world, const GraphLayout& layout, const BarPlan& plan,
-                const GradientRecord& colorMap, const BarSpans& bars, int64_t row) {
-  PF_Pixel* pixels = world.Row(row);
-  if (plan.hasGaps && IsGapRow(plan.quantization, layout, row)) {
-    StoreSpan(pixels, plan.rowGap);
-    return;
+// Draws the rows from the bottom upward. Most look like one before them, and are copied from it.
+class BarRows {
+ public:
+  BarRows(const OutputWorld& outputWorld, const GraphLayout& graphLayout, const BarPlan& barPlan,
+          const GradientRecord& gradient)
+      : world(outputWorld), layout(graphLayout), plan(barPlan), colorMap(gradient) {}
+
+  void Draw(int64_t above) {
+    const int64_t row = layout.bottom - above;
+    PF_Pixel* pixels = world.Row(row);
+    if (plan.hasGaps && IsGapRow(plan.quantization, layout, row)) {
+      ClearStretch(pixels, plan.rowGap);
+      return;
+    }
+    TakeSpans(above, plan.hasGaps && row > layout.top);
+    if (plan.isColoredByRow) TakeColor(RowColor(layout, colorMap, row));
+    if (model == nullptr) {
+      Store(pixels);
+      model = pixels;
+      return;
+    }
+    for (size_t i = 0; i < bars.stretchCount; ++i) CopyStretch(model, pixels, bars.stretches[i]);
   }
-  const PF_Pixel rowColor = plan.isColoredByRow ? RowColor(layout, colorMap, row) : kWhite;
-  for (size_t i = 0; i < bars.count; ++i) {
-    ColumnSpan span = bars.spans[i];
-    if (plan.isColoredByRow) span.color = rowColor;
-    StoreSpan(pixels, span);
+
+ private:
+  void TakeSpans(int64_t above, bool isCut) {
+    if (above < bars.endAbove && isCut == areCut) return;
+    const auto gaps =
+        isCut ? std::span<const ColumnSpan>(plan.bandGaps) : std::span<const ColumnSpan>();
+    bars = BarSpansAt(world, layout, plan.heights, plan.colors, above, gaps);
+    areCut = isCut;
+    model = nullptr;
   }
-  if (!plan.hasGaps || row <= layout.top) return;
-  for (const ColumnSpan& gap : plan.bandGaps) StoreSpan(pixels, gap);
-}
+
+  void TakeColor(PF_Pixel color) {
+    if (WordOf(color) == WordOf(rowColor)) return;
+    rowColor = color;
+    model = nullptr;
+  }
+
+  void Store(PF_Pixel* pixels) const {
+    for (size_t i = 0; i < bars.count; ++i) {
+      ColumnSpan span = bars.spans[i];
+      if (plan.isColoredByRow && i < bars.barCount) span.color = rowColor;
+      StoreSpan(pixels, span);
+    }
+  }
+
+  const OutputWorld& world;
+  const GraphLayout& layout;
+  const BarPlan& plan;
+  const GradientRecord& colorMap;
+  BarSpans bars;
+  bool areCut = false;
+  PF_Pixel rowColor = kWhite;
+  const PF_Pixel* model = nullptr;  // a row as the next ones are to be
+};
 
 }  // namespace
 
@@ -105,11 +146,6 @@ void DrawSpectrumBars(const OutputWorld& world, const GraphLayout& layout,
                                 plan.hasGaps ? int64_t{layout.graphHeight} + 1 : 0);
   const int64_t firstAbove = std::max<int64_t>(0, layout.bottom - (world.height - 1));
   const int64_t endAbove = std::min(rows, int64_t{layout.bottom} + 1);
-  BarSpans bars;
-  for (int64_t above = firstAbove; above < endAbove; ++above) {
-    if (above >= bars.endAbove) {
-      bars = BarSpansAt(world, layout, plan.heights, plan.colors, above);
-    }
-    DrawBarRow(world, layout, plan, colorMap, bars, layout.bottom - above);
-  }
+  BarRows barRows(world, layout, plan, colorMap);
+  for (int64_t above = firstAbove; above < endAbove; ++above) barRows.Draw(above);
 }
