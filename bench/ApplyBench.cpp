@@ -1,84 +1,178 @@
-// A whole Apply through the built library, and what of it is not the band levels.
-#include <benchmark/benchmark.h>
+// What a whole `workbench apply` of a song costs, and what of it is the resonator bank, decoding,
+// the host's calls, the export and the rest.
+#include <sys/resource.h>
 
 #include <algorithm>
+#include <array>
+#include <chrono>
 #include <cmath>
 #include <cstdint>
+#include <cstdlib>
 #include <ctime>
-#include <limits>
+#include <filesystem>
+#include <fstream>
+#include <functional>
 #include <memory>
+#include <stdexcept>
+#include <string>
 #include <vector>
 
-#include "workbench/host/HostSession.h"
+#include "Figures.h"
+#include "analysis/ResonatorBank.h"
+#include "analysis/ResonatorTuning.h"
+#include "shell/ParameterTable.h"
+#include "workbench/audio/AudioDecoder.h"
+#include "workbench/cli/KeyframeRun.h"
+#include "workbench/export/WholeFile.h"
 
 namespace {
 
+constexpr int32_t kSeconds = 180;
 constexpr int32_t kKeyframesPerSecond = 30;
+constexpr int kTurns = 5;
 
-// A beat of decaying low tones over a steady chord, in 16 bits.
-std::shared_ptr<const AudioClip> Music(int32_t seconds) {
-  std::vector<int16_t> frames;
-  for (int64_t n = 0; n < int64_t{seconds} * kClipSampleRateHz; ++n) {
+// Three ranges side by side over all 32 bands of a frame of 1920 x 1080.
+const std::vector<std::string> kRanges = {
+    "Range 1/Active=on", "Range 1 Corner 1=192,108", "Range 1 Corner 2=586,900",
+    "Range 2/Active=on", "Range 2 Corner 1=590,108", "Range 2 Corner 2=946,900",
+    "Range 3/Active=on", "Range 3 Corner 1=950,108", "Range 3 Corner 2=1342,900",
+};
+
+// A beat of decaying low tones over a steady chord, in stereo.
+std::vector<int16_t> MakeSong() {
+  std::vector<int16_t> samples;
+  for (int64_t n = 0; n < int64_t{kSeconds} * kClipSampleRateHz; ++n) {
     const double time = static_cast<double>(n) / kClipSampleRateHz;
     const double beat = std::fmod(time, 0.5);
     const double value = 0.5 * std::exp(-8.0 * beat) * std::sin(2.0 * M_PI * 55.0 * time) +
                          0.1 * std::sin(2.0 * M_PI * 220.0 * time) +
                          0.1 * std::sin(2.0 * M_PI * 1760.0 * time);
-    frames.insert(frames.end(), 2, static_cast<int16_t>(32767.0 * value));
+    samples.insert(samples.end(), 2, static_cast<int16_t>(32767.0 * value));
   }
-  AudioClipBuilder builder;
-  builder.Append(frames.data(), int64_t{seconds} * kClipSampleRateHz);
-  return std::make_shared<const AudioClip>(builder.Finish());
+  return samples;
 }
 
-// The same sound on a layer, for a session with either library.
-struct Stand {
-  Stand(const char* library, const std::shared_ptr<const AudioClip>& sound, int32_t seconds)
-      : session(library) {
-    comp.workAreaDuration = seconds * kKeyframesPerSecond;
-    Layer& layer = comp.AddLayer("music", sound);
-    instance = &session.AddInstance(layer);
-    instance->chosenLayers[2] = &layer;
+// A WAV file of `samples`, which goes with the object.
+class SongFile {
+ public:
+  explicit SongFile(const std::vector<int16_t>& samples) {
+    const auto bytes = static_cast<uint32_t>(samples.size() * sizeof(int16_t));
+    std::ofstream file(path, std::ios::binary);
+    const auto put = [&file](const char* tag, auto... numbers) {
+      file.write(tag, 4);
+      (file.write(reinterpret_cast<const char*>(&numbers), sizeof numbers), ...);
+    };
+    put("RIFF", bytes + 36U);
+    put("WAVE");
+    put("fmt ", 16U, uint16_t{1}, uint16_t{2}, 44100U, 176400U, uint16_t{4}, uint16_t{16});
+    put("data", bytes);
+    file.write(reinterpret_cast<const char*>(samples.data()), bytes);
+    if (!file.flush()) throw std::runtime_error("no room for a song in " + path.string());
   }
+  ~SongFile() { std::filesystem::remove(path); }
+  SongFile(const SongFile&) = delete;
+  SongFile& operator=(const SongFile&) = delete;
 
-  Comp comp;
-  HostSession session;
-  EffectInstance* instance = nullptr;
+  const std::filesystem::path path = std::filesystem::temp_directory_path() / "apply_bench.wav";
 };
 
-// Processor time, which neighbours on the machine disturb less than the clock on the wall.
-template <typename Work>
-double SecondsOf(Work work) {
-  const std::clock_t start = std::clock();
-  work();
-  return static_cast<double>(std::clock() - start) / CLOCKS_PER_SEC;
+double ProcessorSeconds(int whose) {
+  rusage usage{};
+  getrusage(whose, &usage);
+  const auto seconds = [](const timeval& time) {
+    return static_cast<double>(time.tv_sec) + 1e-6 * static_cast<double>(time.tv_usec);
+  };
+  return seconds(usage.ru_utime) + seconds(usage.ru_stime);
 }
 
-// Runs Apply and the band levels alone in turn, and compares the fastest run of each.
-void ApplyRun(benchmark::State& state) {
-  const auto seconds = static_cast<int32_t>(state.range(0));
-  const auto sound = Music(seconds);
-  Stand apply(PLUGIN_PATH, sound, seconds);
-  Stand levels(LEVELS_PATH, sound, seconds);
-  int32_t keyframes = seconds * kKeyframesPerSecond;
-  double fastestApply = std::numeric_limits<double>::max();
-  double fastestLevels = fastestApply;
-  while (state.KeepRunning()) {
-    const double applied = SecondsOf([&] { apply.session.PressApply(*apply.instance); });
-    const double computed =
-        SecondsOf([&] { levels.session.Host().Send(PF_Cmd_EVENT, levels.instance, &keyframes); });
-    fastestApply = std::min(fastestApply, applied);
-    fastestLevels = std::min(fastestLevels, computed);
-    state.SetIterationTime(applied);
+// Seconds of each turn of a piece of work. Neighbours on the machine disturb the processor's time
+// less than the clock on the wall.
+struct Cost {
+  std::vector<double> processor;
+  std::vector<double> wall;
+
+  void Add(const std::function<void()>& work, int whose = RUSAGE_SELF) {
+    const auto start = std::chrono::steady_clock::now();
+    const double used = ProcessorSeconds(whose);
+    work();
+    processor.push_back(ProcessorSeconds(whose) - used);
+    wall.push_back(std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count());
   }
-  state.counters["keyframes"] = keyframes;
-  state.counters["us_per_keyframe"] = 1e6 * fastestApply / keyframes;
-  state.counters["outside_levels_percent"] = 100.0 * (1.0 - fastestLevels / fastestApply);
+};
+
+struct Costs {
+  Cost whole, decoding, bank, run, exporting;
+};
+
+// The windows of the run through all bands, straight from the song.
+void RunBankAlone(const std::vector<int16_t>& song) {
+  PF_ANSICallbacks ansi{};
+  ansi.sin = [](double x) { return std::sin(x); };
+  std::array<double, kBandCount> mask{};
+  mask.fill(1.0);
+  constexpr int32_t kWindowFrames = 6629;
+  constexpr int32_t kStep = kClipSampleRateHz / kKeyframesPerSecond;
+  const int64_t lastFirst = static_cast<int64_t>(song.size()) / 2 - kWindowFrames;
+  for (int64_t n = 0; n < int64_t{kSeconds} * kKeyframesPerSecond; ++n) {
+    const StereoFrames frames{song.data() + 2 * std::min(n * kStep, lastFirst), kWindowFrames};
+    std::array<double, kBandCount> sums{};
+    SumMagnitudes(TuneResonators(mask, 0.1, ansi), frames, kChannelMix, sums);
+  }
 }
 
-BENCHMARK(ApplyRun)->Arg(60)->Arg(180)->Iterations(8)->UseManualTime()->Unit(
-    benchmark::kMillisecond);
+void RunWorkbench(const std::filesystem::path& song, const std::filesystem::path& keyframes) {
+  std::string command = std::string("'") + WORKBENCH_PATH + "' apply '" + song.string() +
+                        "' --quiet --out '" + keyframes.string() + "'";
+  for (const std::string& setting : kRanges) command += " --set '" + setting + "'";
+  if (std::system(command.c_str()) != 0) throw std::runtime_error("This failed: " + command);
+}
+
+// The same steps as the command takes, each by itself.
+void AddTurn(const std::vector<int16_t>& song, const std::filesystem::path& file, Costs& costs) {
+  const std::filesystem::path out = std::filesystem::path(file).replace_extension(".csv");
+  costs.whole.Add([&] { RunWorkbench(file, out); }, RUSAGE_CHILDREN);
+  std::shared_ptr<const AudioClip> sound;
+  costs.decoding.Add([&] { sound = std::make_shared<const AudioClip>(DecodeAudioFile(file)); });
+  StageOptions options;
+  options.plugin = PLUGIN_PATH;
+  options.settings = kRanges;
+  Stage stage(options, "song", sound);
+  costs.run.Add([&] { stage.Session().PressApply(stage.Instance()); });
+  costs.bank.Add([&] { RunBankAlone(song); });
+  costs.exporting.Add([&] {
+    WriteWholeFile(out, WriterFor("--out", out)(TableOf(stage, stage.Instance().written)));
+  });
+  std::filesystem::remove(out);
+}
+
+std::vector<Figure> FiguresOf(const Costs& costs) {
+  const double whole = MedianOf(costs.whole.processor);
+  const double decoding = MedianOf(costs.decoding.processor);
+  const double bank = MedianOf(costs.bank.processor);
+  const double calls = MedianOf(costs.run.processor) - bank;
+  const double exporting = MedianOf(costs.exporting.processor);
+  std::vector<Figure> figures = {
+      {"Apply, 3 minutes, 3 ranges, on the wall", MedianOf(costs.whole.wall), " s", 0.8, 2.4},
+      {"Apply, of the processor's time", whole, " s"}};
+  const auto addShare = [&](const char* what, double seconds) {
+    figures.push_back({std::string("Apply, share of ") + what, 100.0 * seconds / whole, " %"});
+  };
+  addShare("the bank", bank);
+  addShare("decoding", decoding);
+  addShare("the host's calls and the run around the bank", calls);
+  addShare("the export", exporting);
+  addShare("start and end of the process", whole - decoding - bank - calls - exporting);
+  figures.push_back({"Apply, what is neither bank nor decoding", (whole - decoding - bank) / bank,
+                     " of the bank", 1.0, 2.0});
+  return figures;
+}
 
 }  // namespace
 
-BENCHMARK_MAIN();
+int main(int argc, char** argv) {
+  const std::vector<int16_t> song = MakeSong();
+  const SongFile file(song);
+  Costs costs;
+  for (int turn = 0; turn < kTurns; ++turn) AddTurn(song, file.path, costs);
+  return ReportFigures(FiguresOf(costs), argc, argv);
+}

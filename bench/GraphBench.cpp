@@ -1,14 +1,14 @@
 // What drawing a frame of the graph costs, beside clearing the same world.
-#include <benchmark/benchmark.h>
-
 #include <algorithm>
 #include <array>
 #include <chrono>
 #include <cstddef>
 #include <cstdint>
 #include <cstring>
+#include <string>
 #include <vector>
 
+#include "Figures.h"
 #include "gradient/GradientStops.h"
 #include "graph/GraphLayout.h"
 #include "graph/GraphSettings.h"
@@ -17,24 +17,37 @@
 
 namespace {
 
-// Levels of a loud passage: a strong bass, falling toward the treble.
-constexpr std::array<double, kBandCount> kMusic = {
-    0.62, 0.78, 0.91, 0.97, 0.88, 0.81, 0.84, 0.73, 0.66, 0.71, 0.58, 0.55, 0.61, 0.49, 0.52, 0.47,
-    0.44, 0.50, 0.41, 0.38, 0.43, 0.35, 0.31, 0.34, 0.27, 0.29, 0.22, 0.18, 0.20, 0.13, 0.09, 0.05};
+using Levels = std::array<double, kBandCount>;
 
-constexpr std::array<double, kBandCount> kFullScale = [] {
-  std::array<double, kBandCount> levels{};
+// Levels of a loud passage: a strong bass, falling toward the treble.
+constexpr Levels kMusic = {0.62, 0.78, 0.91, 0.97, 0.88, 0.81, 0.84, 0.73, 0.66, 0.71, 0.58,
+                           0.55, 0.61, 0.49, 0.52, 0.47, 0.44, 0.50, 0.41, 0.38, 0.43, 0.35,
+                           0.31, 0.34, 0.27, 0.29, 0.22, 0.18, 0.20, 0.13, 0.09, 0.05};
+
+constexpr Levels kFullScale = [] {
+  Levels levels{};
   levels.fill(1.0);
   return levels;
 }();
 
-GraphSettings AllElements(int32_t gradient, bool quantize) {
-  GraphSettings settings;
-  settings.gradient = gradient;
-  settings.quantize = quantize;
-  settings.active = {true, true, true};
-  return settings;
-}
+struct Look {
+  int32_t gradient = kGradientHorizontal;
+  bool quantize = false;
+  float fillSegment = 0.8F;
+};
+
+constexpr Look kPlain = {};
+constexpr Look kVertical = {kGradientVertical};
+constexpr Look kQuantized = {kGradientHorizontal, true};
+
+// Every way in which full bars cost something of their own. Segments without gaps between them
+// leave the most to draw.
+constexpr Look kAllLooks[] = {kPlain,
+                              kVertical,
+                              kQuantized,
+                              {kGradientVertical, true},
+                              {kGradientHorizontal, true, 1.0F},
+                              {kGradientVertical, true, 1.0F}};
 
 // Three ranges that stand side by side over most of the graph.
 RangeGeometry ThreeRanges() {
@@ -44,11 +57,10 @@ RangeGeometry ThreeRanges() {
   return geometry;
 }
 
-double MedianOf(std::vector<double>& values) {
-  const auto middle = values.begin() + static_cast<std::ptrdiff_t>(values.size() / 2);
-  std::ranges::nth_element(values, middle);
-  return *middle;
-}
+struct FrameSize {
+  int32_t width = 0;
+  int32_t height = 0;
+};
 
 template <typename Work>
 double MicrosecondsOf(Work work) {
@@ -58,54 +70,70 @@ double MicrosecondsOf(Work work) {
       .count();
 }
 
-// Clears and draws one world in turn, as a host does, and compares the medians.
-void DrawFrames(benchmark::State& state, const GraphSettings& settings,
-                const std::array<double, kBandCount>& levels) {
-  const auto width = static_cast<int32_t>(state.range(0));
-  const auto height = static_cast<int32_t>(state.range(1));
-  std::vector<PF_Pixel> pixels(static_cast<size_t>(width) * static_cast<size_t>(height));
-  const OutputWorld world{pixels.data(), width, width, height};
-  const GraphLayout layout = MakeGraphLayout(width, height);
-  const RangeGeometry geometry = ThreeRanges();
-  GradientRecord colorMap;
-  InitRecord(colorMap);
-  constexpr std::array<double, kRangeCount> kRaw = {0.4, 0.1, 0.9};
-  constexpr std::array<double, kRangeCount> kHeld = {0.7, 0.1, 1.0};
-  std::vector<double> clears;
-  std::vector<double> drawings;
-  while (state.KeepRunning()) {
-    clears.push_back(MicrosecondsOf([&] {
-      std::memset(pixels.data(), 0, pixels.size() * sizeof(PF_Pixel));
-      benchmark::ClobberMemory();
-    }));
-    drawings.push_back(MicrosecondsOf([&] {
-      DrawSpectrumGraph(world, layout, settings, colorMap, levels, geometry);
-      DrawOutputBars(world, layout, settings.active, kRaw, kHeld);
-      benchmark::ClobberMemory();
-    }));
-    state.SetIterationTime(drawings.back() * 1e-6);
+// One buffer for all frames of a size, as a host has it.
+class FrameBench {
+ public:
+  explicit FrameBench(FrameSize frameSize)
+      : size(frameSize),
+        pixels(static_cast<size_t>(size.width) * static_cast<size_t>(size.height)) {
+    InitRecord(colorMap);
   }
-  const double clear = MedianOf(clears);
-  const double drawing = MedianOf(drawings);
-  state.counters["clear_us"] = clear;
-  state.counters["drawing_us"] = drawing;
-  state.counters["drawing_per_clear"] = drawing / clear;
+
+  // How many clears of the world a drawing takes: both in turn, and the medians of all turns.
+  double DrawingPerClear(const Look& look, const Levels& levels) {
+    std::vector<double> clears;
+    std::vector<double> drawings;
+    for (int turn = 0; turn < kTurns; ++turn) {
+      clears.push_back(
+          MicrosecondsOf([&] { std::memset(pixels.data(), 0, pixels.size() * sizeof(PF_Pixel)); }));
+      drawings.push_back(MicrosecondsOf([&] { Draw(look, levels); }));
+    }
+    return MedianOf(drawings) / MedianOf(clears);
+  }
+
+ private:
+  static constexpr int kTurns = 201;
+
+  void Draw(const Look& look, const Levels& levels) {
+    constexpr std::array<double, kRangeCount> kRaw = {0.4, 0.1, 0.9};
+    constexpr std::array<double, kRangeCount> kHeld = {0.7, 0.1, 1.0};
+    GraphSettings settings;
+    settings.gradient = look.gradient;
+    settings.quantize = look.quantize;
+    settings.fillSegment = look.fillSegment;
+    settings.active = {true, true, true};
+    const OutputWorld world{pixels.data(), size.width, size.width, size.height};
+    const GraphLayout layout = MakeGraphLayout(size.width, size.height);
+    DrawSpectrumGraph(world, layout, settings, colorMap, levels, ThreeRanges());
+    DrawOutputBars(world, layout, settings.active, kRaw, kHeld);
+  }
+
+  FrameSize size;
+  std::vector<PF_Pixel> pixels;
+  GradientRecord colorMap;
+};
+
+void Measure(FrameSize size, std::vector<Figure>& figures) {
+  FrameBench bench(size);
+  const auto add = [&](const char* what, double ratio, double wanted, double gate) {
+    figures.push_back({"Drawing, " + std::to_string(size.height) + " rows, " + what, ratio,
+                       " clears", wanted, gate});
+  };
+  add("music", bench.DrawingPerClear(kPlain, kMusic), 1.5, 3.0);
+  add("music, vertical gradient", bench.DrawingPerClear(kVertical, kMusic), 1.5, 3.0);
+  add("music, quantized", bench.DrawingPerClear(kQuantized, kMusic), 2.0, 4.0);
+  double worst = 0.0;
+  for (const Look& look : kAllLooks) {
+    worst = std::max(worst, bench.DrawingPerClear(look, kFullScale));
+  }
+  add("worst of full bars", worst, 2.5, 5.0);
 }
-
-void Sizes(benchmark::internal::Benchmark* bench) {
-  bench->Args({1920, 1080})->Args({3840, 2160})->UseManualTime()->Unit(benchmark::kMicrosecond);
-}
-
-const GraphSettings kPlain = AllElements(kGradientHorizontal, false);
-const GraphSettings kVertical = AllElements(kGradientVertical, false);
-const GraphSettings kQuantized = AllElements(kGradientHorizontal, true);
-const GraphSettings kQuantizedVertical = AllElements(kGradientVertical, true);
-
-BENCHMARK_CAPTURE(DrawFrames, music, kPlain, kMusic)->Apply(Sizes);
-BENCHMARK_CAPTURE(DrawFrames, music_vertical, kVertical, kMusic)->Apply(Sizes);
-BENCHMARK_CAPTURE(DrawFrames, music_quantized, kQuantized, kMusic)->Apply(Sizes);
-BENCHMARK_CAPTURE(DrawFrames, full_scale, kPlain, kFullScale)->Apply(Sizes);
-BENCHMARK_CAPTURE(DrawFrames, full_scale_vertical, kVertical, kFullScale)->Apply(Sizes);
-BENCHMARK_CAPTURE(DrawFrames, full_scale_quantized, kQuantizedVertical, kFullScale)->Apply(Sizes);
 
 }  // namespace
+
+int main(int argc, char** argv) {
+  std::vector<Figure> figures;
+  Measure({1920, 1080}, figures);
+  Measure({3840, 2160}, figures);
+  return ReportFigures(figures, argc, argv);
+}
