@@ -13,7 +13,7 @@ double MedianOf(std::vector<double> values) {
 }
 
 int ReportFigures(const std::vector<Figure>& figures, int argc, char** argv) {
-  const bool isGated = argc > 1 && std::string_view(argv[1]) == "--gate";
+  const bool isGated = argc > 1 && std::string_view(argv[1]) == "--gates";
   int status = 0;
   for (const Figure& figure : figures) {
     std::printf("%s\t%.2f%s\t", figure.name.c_str(), figure.value, figure.unit);

@@ -17,6 +17,6 @@ double MedianOf(std::vector<double> values);
 
 // Prints a line for each figure: name, value and what is wanted, parted by tabs.
 //
-// With --gate as the program's argument the result is 1, and a line on the error stream names the
+// With --gates as the program's argument the result is 1, and a line on the error stream names the
 // figure, where one is above its gate. Else the result is 0.
 int ReportFigures(const std::vector<Figure>& figures, int argc, char** argv);
