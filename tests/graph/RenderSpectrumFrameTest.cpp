@@ -184,12 +184,10 @@ TEST(RenderSpectrumFrame, FramesOfAllInstancesWaitForOneAnother) {
 
 TEST(RenderSpectrumFrame, AFrameThatAFrameCausesDoesNotWaitForIt) {
   GraphHost outer(kWidth, kHeight);
-  GraphHost inner(kWidth, kHeight);
-  static GraphHost* caused;
-  caused = &inner;
+  static GraphHost inner(kWidth, kHeight);
   outer.samples = inner.samples = MakeNoise(600, 0);
   outer.utils.ansi.sqrt = [](double x) {
-    EXPECT_EQ(caused->Render(1000), PF_Err_NONE);
+    EXPECT_EQ(inner.Render(1000), PF_Err_NONE);
     return std::sqrt(x);
   };
   ASSERT_EQ(outer.Render(1000), PF_Err_NONE);
