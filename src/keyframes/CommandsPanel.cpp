@@ -142,6 +142,20 @@ void RequestRedraw(PF_InData* in_data, PF_OutData* out_data, PF_ParamDef** param
   extra.evt_out_flags |= PF_EO_UPDATE_NOW;
 }
 
+PF_Err PressOrDragAndRedraw(PF_InData* in_data, PF_OutData* out_data, PF_ParamDef** params,
+                            PF_EventExtra& extra) {
+  extra.evt_out_flags = PF_EO_HANDLED_EVENT;
+  try {
+    const PF_Err error = PressOrDrag(in_data, out_data, params, extra);
+    RequestRedraw(in_data, out_data, params, extra);
+    return error;
+  } catch (...) {
+    // The button is up again, whatever ended its run.
+    RequestRedraw(in_data, out_data, params, extra);
+    throw;
+  }
+}
+
 }  // namespace
 
 PF_Err HandleCommandsEvent(PF_InData* in_data, PF_OutData* out_data, PF_ParamDef** params,
@@ -150,12 +164,8 @@ PF_Err HandleCommandsEvent(PF_InData* in_data, PF_OutData* out_data, PF_ParamDef
     case PF_Event_DRAW:
       return Draw(in_data, out_data, params, *extra);
     case PF_Event_DO_CLICK:
-    case PF_Event_DRAG: {
-      extra->evt_out_flags = PF_EO_HANDLED_EVENT;
-      const PF_Err error = PressOrDrag(in_data, out_data, params, *extra);
-      RequestRedraw(in_data, out_data, params, *extra);
-      return error;
-    }
+    case PF_Event_DRAG:
+      return PressOrDragAndRedraw(in_data, out_data, params, *extra);
     default:
       return PF_Err_NONE;
   }

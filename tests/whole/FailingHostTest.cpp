@@ -180,6 +180,7 @@ TEST(FailingHost, AMissingSuiteEndsARunBeforeItWrites) {
     EXPECT_TRUE(result.broken.empty()) << suite;
     EXPECT_TRUE(instance.Output(1).empty()) << suite;
     EXPECT_EQ(instance.RecordWord(32), 0U) << suite;
+    EXPECT_EQ(instance.lastEvent.evt_out_flags, PF_EO_HANDLED_EVENT | PF_EO_UPDATE_NOW) << suite;
     EXPECT_EQ(instance.RecordWord(40), 2U) << suite;
   }
 }
