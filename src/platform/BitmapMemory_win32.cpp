@@ -3,8 +3,6 @@
 
 #include <windows.h>
 
-#include <cstring>
-#include <limits>
 #include <memory>
 #include <type_traits>
 
@@ -33,8 +31,6 @@ BITMAPINFO TopDown32(int32_t width, int32_t height) {
 }  // namespace
 
 BitmapMemory AllocateBitmap(int32_t width, int32_t height) {
-  // GDI counts the bytes of a bitmap in 32 bits.
-  if (width > std::numeric_limits<int32_t>::max() / 4 / height) return {};
   OwnedSurface surface(CreateCompatibleDC(nullptr));
   if (surface == nullptr) return {};
   const BITMAPINFO info = TopDown32(width, height);
@@ -42,7 +38,7 @@ BitmapMemory AllocateBitmap(int32_t width, int32_t height) {
   OwnedBitmap bitmap(CreateDIBSection(surface.get(), &info, DIB_RGB_COLORS, &bits, nullptr, 0));
   if (bitmap == nullptr || bits == nullptr) return {};
   if (SelectObject(surface.get(), bitmap.get()) == nullptr) return {};
-  std::memset(bits, 0, static_cast<size_t>(width) * 4 * static_cast<size_t>(height));
+  // Fresh pages of the system's, and those are 0.
   return {bitmap.release(), surface.release(), static_cast<uint8_t*>(bits)};
 }
 
