@@ -12,7 +12,6 @@ struct ModuleResource {
   std::string bytes;
 };
 
-// file   the whole module
-// Throws std::out_of_range where something points out of the file, std::runtime_error where it is
-// no module for 64 bits.
+// file   a whole module for 64 bits
+// Throws std::out_of_range where something points out of the file.
 std::vector<ModuleResource> ReadModuleResources(const std::string& file);
