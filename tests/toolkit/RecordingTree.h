@@ -26,13 +26,14 @@ struct RecordingWindow : public WindowContext {
   Rect GetClientRect() const override { return {}; }
   Point GetMousePosition() const override { return {}; }
   Modifiers GetModifiers() const override { return {}; }
-  void ShowCursor(bool /*show*/) override {}
+  void ShowCursor(bool show) override { pointerShown = show; }
   void SetCursor(int32_t id) override { cursors.push_back(id); }
   void SetMousePosition(const Point& /*point*/) override {}
   void SetScreenMousePosition(const Point& /*point*/) override {}
   Point GetScreenMousePosition() const override { return {}; }
 
   std::vector<int32_t> cursors;
+  bool pointerShown = false;
 };
 
 // Who is there, what was heard, and what to do when a hook is called.

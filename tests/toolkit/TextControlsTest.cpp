@@ -164,7 +164,9 @@ TEST(HelpPanel, ShowsTheTextOfTheControlUnderThePointer) {
   TextPanelStage panel;
   HelpPanel help(nullptr, kPlace);
   help.SetIdleText("idle");
-  Add<TextLabel>(panel, "label").SetHelpText("about it");
+  auto& label = Add<TextLabel>(panel, "label");
+  label.SetHelpText("about it");
+  label.SetEnabled(false);
   help.ShowHelpAt(panel, kOn);
   EXPECT_EQ(help.GetText(), "about it");
   help.ShowHelpAt(panel, {150, 90});

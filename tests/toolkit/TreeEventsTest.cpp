@@ -61,6 +61,8 @@ struct Events {
     if (what == 'K') front.cursor = -8;
     if (what == 'k') front.cursor = kKeepPointerWithCursor0;
     if (what == 'Y') window.SetPendingKey(65);
+    if (what == 'Q') back.SetPendingDelete(true);
+    if (what == 'T') window.UpdateTree();
     if (what == '?') stage.heard += window.GetPopup() != nullptr ? "open " : "closed ";
     if (what == '|') stage.heard.clear();
   }
@@ -106,6 +108,10 @@ const EventCase kEventCases[] = {
     {"nor does it take the release away", "Db Rb Ub",
      "0.OnCaptureGained 1.OnMouseDown 1.OnRightMouseDown 1.OnMouseUp 1.EndTracking "
      "0.OnCaptureLost "},
+    {"what is to be deleted gets its release before", "Db Q  T  |  Ub",
+     "1.OnMouseUp 1.EndTracking 0.OnCaptureLost "},
+    {"a waiting key goes with the focus", "F  Y  Dr F  |  I\x1a",
+     "3.OnIdle 2.OnIdle 1.OnIdle 0.OnIdle "},
     {"idling goes by the clock, and brings a waiting key", "F  |  I\x19 Y  I\x01 I\x19",
      "3.OnIdle 2.OnIdle 1.OnIdle 0.OnIdle 1.OnKeyDown "},
 };
@@ -134,6 +140,8 @@ TEST(TreeEvents, PointsArriveInTheControlsOwnSpace) {
   EXPECT_EQ(events.inner.lastPoint, (Point{10, 10}));
   events.Play("Mp");
   EXPECT_EQ(events.inner.lastPoint, (Point{-29, -29}));
+  events.Play("Uo");
+  EXPECT_TRUE(events.window.window.pointerShown) << "whatever a press has done to it";
 }
 
 TEST(TreeEvents, RightButtonOpensTheNearestContextMenuBesideThePress) {

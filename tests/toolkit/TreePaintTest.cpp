@@ -149,6 +149,7 @@ TEST(TreePaint, OnlyWhatShowsIsPainted) {
   back.RedrawThroughRoot({15, 15, 40, 40});
   EXPECT_EQ(stage.Heard(), "2.Paint 2.PaintOverlay 4.Paint 4.PaintOverlay 0.PaintOverlay ");
   cover.SetState(kStateHidden);
+  root.SetStateTreeKeepHidden(kStateNormal);
   stage.Heard();
   glass.RedrawSelf();
   EXPECT_EQ(stage.Heard(), "0.Paint 1.Paint 1.PaintOverlay 4.Paint 4.PaintOverlay 0.PaintOverlay ");
