@@ -1,4 +1,4 @@
-// Where a popup opens.
+// Puts a rectangle elsewhere with its size kept: at a point, or inside an area.
 #include "toolkit/PopupPlacement.h"
 
 #include <algorithm>
