@@ -6,6 +6,8 @@
 #include <stdexcept>
 
 #include "AnalysisHost.h"
+#include "analysis/ResonatorForms.h"
+#include "tools/bankcases/BankCase.h"
 
 namespace {
 
@@ -43,6 +45,36 @@ TEST(BandLevels, EveryStepIsRoundedByItselfInItsOrder) {
   for (int32_t i = 0; i < 6; ++i) params.At(kScale + i).fd.value = kGains[i];
   const BandArray levels = LevelsOf(host, params);
   for (const auto& [band, level] : kPinned) EXPECT_EQ(levels[band], level) << "band " << band;
+}
+
+// With all four gains alike; the sums are the plain loop's.
+TEST(BandLevels, AtTheEndsOfTheSlidersComeFromTheRightSums) {
+  AnalysisHost host;
+  host.samples = MakeNoise(400, 9);
+  for (const PF_Fixed Q : {66, 65536}) {
+    const ResonatorBank bank = TunedBank(~0U, Q / 65536.0);
+    BandArray sums;
+    SumMagnitudes_scalar(bank, {host.samples.data(), 400}, kChannelMix, sums);
+    for (const PF_Fixed scale : {0, 1, 10000 * kFixedOne}) {
+      for (const PF_Fixed gain : {0, kFixedOne, 50 * kFixedOne}) {
+        TestParameters params;
+        params.At(kScale).fd.value = scale;
+        params.At(kQ).fd.value = Q;
+        for (int32_t index = kSubBase; index <= kTreble; ++index) params.At(index).fd.value = gain;
+        const BandArray levels = LevelsOf(host, params);
+        for (int32_t k = 0; k < kBandCount; ++k) {
+          const auto [subBase, base, mid, treble] = GroupSharesOf(k);
+          const double G = gain / 65536.0;
+          const double weight = (base * G + subBase * G + mid * G + treble * G) * 6.0;
+          const double mean = sums.at(static_cast<size_t>(k)) * (1.0 / 400.0);
+          const double raised = std::sqrt(65536.0 / Q) * 0.4 * (scale / 65536.0);
+          EXPECT_EQ(levels.at(static_cast<size_t>(k)),
+                    std::min(1.0, weight * (std::log(mean + 1.0) * raised)))
+              << "band " << k << ", Q " << Q << ", scale " << scale << ", gain " << gain;
+        }
+      }
+    }
+  }
 }
 
 TEST(BandLevels, TheMaskSilencesItsBandsAndLeavesTheOthersToTheBit) {
