@@ -1,4 +1,4 @@
-// Resonators in the lanes of vectors: packing, the samples as doubles, block after block.
+// Resonators in the lanes of vectors: packing, and the choice of passes.
 #include "analysis/ResonatorLanes.h"
 
 #include <algorithm>
@@ -8,28 +8,25 @@
 
 namespace {
 
-// Turns each frame into a sample. In the plain loop's terms `factor` times (left + right) is
-// x * 3.0517578125e-5 * q: the two powers of two round nothing, so they may go first.
-void ConvertFrames(const int16_t* frames, size_t count, int32_t channel, double factor,
-                   double* samples) {
+// The weights add up to 2, as the plain loop takes a single side twice. What it multiplies by, 0.5,
+// 1 / 32768 and the damping, makes one factor, since powers of two round nothing.
+FrameMix MixOf(int32_t channel, double damping) {
   constexpr double kHalfOfFullScale = 0.5 * 3.0517578125e-5;
-  const ptrdiff_t first = channel == kChannelRight ? 1 : 0;
-  const ptrdiff_t second = channel == kChannelLeft ? 0 : 1;
-  for (size_t i = 0; i < count; ++i) {
-    const int16_t* const frame = frames + 2 * i;
-    samples[i] = (frame[first] + frame[second]) * kHalfOfFullScale * factor;
-  }
+  const double gain = kHalfOfFullScale * damping;
+  if (channel == kChannelLeft) return {2, 0, gain};
+  if (channel == kChannelRight) return {0, 2, gain};
+  return {1, 1, gain};
 }
 
 size_t CeilDivide(size_t dividend, size_t divisor) {
   return (dividend + divisor - 1) / divisor;
 }
 
-LaneState Pack(const ResonatorBank& bank) {
-  LaneState state;
-  std::copy_n(bank.tuning.begin(), bank.count, state.tuning);
-  std::copy_n(bank.damping.begin(), bank.count, state.damping);
-  return state;
+LaneBank Pack(const ResonatorBank& bank) {
+  LaneBank lanes;
+  std::copy_n(bank.tuning.begin(), bank.count, lanes.tuning);
+  std::copy_n(bank.damping.begin(), bank.count, lanes.damping);
+  return lanes;
 }
 
 }  // namespace
@@ -38,26 +35,19 @@ void SumInLanes(const LanePasses& passes, const ResonatorBank& bank, const Stere
                 int32_t channel, std::array<double, kBandCount>& sums) {
   const auto count = static_cast<size_t>(bank.count);
   if (count == 0) return;
-  const auto last = bank.damping.begin() + bank.count;
-  const bool isOneDamping =
-      std::all_of(bank.damping.begin(), last, [&](double q) { return q == bank.damping.front(); });
+  const double q = bank.damping.front();
+  const bool isOneDamping = std::all_of(bank.damping.begin(), bank.damping.begin() + bank.count,
+                                        [q](double damping) { return damping == q; });
   const auto& passOf = isOneDamping ? passes.oneDamping : passes.eachDamping;
-  const double factor = isOneDamping ? bank.damping.front() : 1.0;
-
+  const FrameMix mix = MixOf(channel, isOneDamping ? q : 1.0);
   const size_t vectors = CeilDivide(count, passes.lanes);
   const size_t vectorsTogether = CeilDivide(vectors, CeilDivide(vectors, kMostVectors));
 
   const FlushToZero flushing;
-  LaneState state = Pack(bank);
-  const auto end = static_cast<size_t>(frames.count);
-  for (size_t begin = 0; begin < end; begin += kLaneBlockFrames) {
-    double samples[kLaneBlockFrames];
-    const size_t length = std::min(kLaneBlockFrames, end - begin);
-    ConvertFrames(frames.samples + 2 * begin, length, channel, factor, samples);
-    for (size_t v = 0; v < vectors; v += vectorsTogether) {
-      const LanePass pass = passOf[std::min(vectorsTogether, vectors - v) - 1];
-      pass(state, v * passes.lanes, samples, length);
-    }
+  LaneBank lanes = Pack(bank);
+  for (size_t v = 0; v < vectors; v += vectorsTogether) {
+    const LanePass pass = passOf[std::min(vectorsTogether, vectors - v) - 1];
+    pass(lanes, v * passes.lanes, frames, mix);
   }
-  std::copy_n(state.sum, count, sums.begin());
+  std::copy_n(lanes.sum, count, sums.begin());
 }
