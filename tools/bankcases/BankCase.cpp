@@ -16,7 +16,6 @@
 
 namespace {
 
-constexpr uint32_t kBlockFrames = 256;
 constexpr int16_t kMost = std::numeric_limits<int16_t>::max();
 constexpr int16_t kLeast = std::numeric_limits<int16_t>::min();
 
@@ -55,7 +54,7 @@ class CaseMaker {
 
   uint32_t AnyLength() {
     constexpr uint32_t kWindows[] = {6615, 6629, 6630, 7350};
-    return Below(16) == 0 ? kWindows[Below(4)] : Below(3 * kBlockFrames + 1);
+    return Below(16) == 0 ? kWindows[Below(4)] : Below(800);
   }
 
   std::vector<int16_t> AnySound(uint32_t length) {

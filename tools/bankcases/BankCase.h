@@ -16,7 +16,7 @@ struct BankCase {
 // The bank of the bands whose bit is set in `mask`.
 ResonatorBank TunedBank(uint32_t mask, double Q);
 
-// The same case for the same number, everywhere: any mask, Q and channel, up to three blocks or a
+// The same case for the same number, everywhere: any mask, Q and channel, and up to 800 frames or a
 // whole window of noise, extremes, single samples, steps or tails.
 BankCase MakeBankCase(uint32_t number);
 
