@@ -39,20 +39,22 @@ void DrawRangePage(ImageBuffer& page) {
   SetScreenScale(page.Scale());
   ChequeredClient client;
   StockPanel panel;
-  panel.AddRow("Slider", {100, 18}, MakeSlider);
-  panel.AddRow("Slider, upright", {18, 64}, MakeSlider);
-  panel.AddRow("Scroll bar", {100, 14}, MakeBar);
-  panel.AddRow("Bar, upright", {14, 64}, MakeBar);
-  panel.AddRow("Both bars", {100, 54}, [&client](ControlPane& owner, const Rect& place) {
+  panel.AddControls("Slider", {100, 18}, MakeSlider);
+  panel.AddControls("Slider, upright", {18, 64}, MakeSlider);
+  panel.AddControls("Scroll bar", {100, 14}, MakeBar);
+  panel.AddControls("Bar, upright", {14, 64}, MakeBar);
+  panel.AddControls("Both bars", {100, 54}, [&client](ControlPane& owner, const Rect& place) {
     return MakePane(owner, place, {160, 120}, client);
   });
-  panel.AddRow("As needed", {100, 42}, [&client](ControlPane& owner, const Rect& place) {
+  panel.AddControls("As needed", {100, 42}, [&client](ControlPane& owner, const Rect& place) {
     return MakePane(owner, place, {60, 90}, client);
   });
-  panel.AddRow("Divider", {100, 8},
-               [](ControlPane& owner, const Rect& place) { return new Divider(&owner, place); });
-  panel.AddRow("Divider, upright", {8, 22},
-               [](ControlPane& owner, const Rect& place) { return new Divider(&owner, place); });
+  panel.AddControls("Divider", {100, 8}, [](ControlPane& owner, const Rect& place) {
+    return new Divider(&owner, place);
+  });
+  panel.AddControls("Divider, upright", {8, 22}, [](ControlPane& owner, const Rect& place) {
+    return new Divider(&owner, place);
+  });
   panel.PaintSpecimens(page);
   SetScreenScale(1.0F);
 }

@@ -3,12 +3,9 @@
 
 #include <cstdint>
 #include <functional>
-#include <string>
-#include <vector>
 
 #include "toolkit/CustomControlClient.h"
-#include "toolkit/CustomPanel.h"
-#include "tools/specimens/StillWindow.h"
+#include "tools/specimens/SpecimenPanel.h"
 
 // A chequered ground, for controls that show what lies under them.
 class ChequeredClient : public CustomControlClient {
@@ -16,44 +13,19 @@ class ChequeredClient : public CustomControlClient {
   void PaintControl(CustomControl& control, ImageBuffer& buffer, const PaintArea& area) override;
 };
 
-class StockPanel : public CustomPanel {
+class StockPanel : public SpecimenPanel {
  public:
-  static constexpr int32_t kWidth = 640;
-  static constexpr int32_t kHeight = 400;
-
   // Makes a control with a place, its owner the panel; the panel takes it over.
   using MakeControl = std::function<ControlPane*(ControlPane& panel, const Rect& place)>;
 
   StockPanel();
 
-  void AddRow(const char* caption, const Point& size, const MakeControl& makeControl);
-  void AddCaption(const Point& place, const char* text);
-  // Paints all, bringing one control after the other into its look by the events that lead there.
-  void PaintSpecimens(ImageBuffer& page);
-  void Paint(const Rect& rect, ImageBuffer& buffer, const Point& position) override;
+  // Below the rows before.
+  void AddControls(const char* caption, const Point& size, const MakeControl& makeControl);
 
   // The next row's top.
   int32_t NextTop() const { return nextTop; }
 
  private:
-  enum class Look { kNormal, kOver, kPressed, kFocused, kDisabled };
-
-  struct Specimen {
-    ControlPane* control;
-    Look look;
-    Point pointer;
-  };
-
-  struct Caption {
-    Point place;
-    std::string text;
-  };
-
-  void Lead(const Specimen& specimen);
-  void Leave(const Specimen& specimen);
-
-  StillWindow window;
-  std::vector<Specimen> specimens;
-  std::vector<Caption> captions;
   int32_t nextTop = 26;
 };

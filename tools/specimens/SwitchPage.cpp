@@ -67,29 +67,29 @@ void DrawSwitchPage(ImageBuffer& page) {
   DrawLamps(strip);
   ChequeredClient client;
   StockPanel panel;
-  panel.AddRow("Tabs", {100, 20}, MakeTabs);
-  panel.AddRow("Group", {100, 20}, MakeTextGroup);
-  panel.AddRow("Group of strips", {100, 20}, [&strip](ControlPane& owner, const Rect& place) {
+  panel.AddControls("Tabs", {100, 20}, MakeTabs);
+  panel.AddControls("Group", {100, 20}, MakeTextGroup);
+  panel.AddControls("Group of strips", {100, 20}, [&strip](ControlPane& owner, const Rect& place) {
     auto* group = new GroupControl(&owner, place);
     for (int32_t i = 0; i < 3; ++i) group->AddStripCell(&strip);
     return group;
   });
-  panel.AddRow("Toggle", {60, 20}, MakeToggle<ToggleButton, false>);
-  panel.AddRow("Toggle, on", {60, 20}, MakeToggle<ToggleButton, true>);
-  panel.AddRow("Check box", {60, 18}, MakeToggle<Checkbox, false>);
-  panel.AddRow("Check box, on", {60, 18}, MakeToggle<Checkbox, true>);
-  panel.AddRow("Close", {18, 18}, [](ControlPane& owner, const Rect& place) {
+  panel.AddControls("Toggle", {60, 20}, MakeToggle<ToggleButton, false>);
+  panel.AddControls("Toggle, on", {60, 20}, MakeToggle<ToggleButton, true>);
+  panel.AddControls("Check box", {60, 18}, MakeToggle<Checkbox, false>);
+  panel.AddControls("Check box, on", {60, 18}, MakeToggle<Checkbox, true>);
+  panel.AddControls("Close", {18, 18}, [](ControlPane& owner, const Rect& place) {
     return new CloseButton(&owner, place);
   });
-  panel.AddRow("Iconic", {24, 20}, [scale](ControlPane& owner, const Rect& place) {
+  panel.AddControls("Iconic", {24, 20}, [scale](ControlPane& owner, const Rect& place) {
     return MakeIconButton<IconicButton>(owner, place, scale);
   });
-  panel.AddRow("Icon and text", {80, 20}, [scale](ControlPane& owner, const Rect& place) {
+  panel.AddControls("Icon and text", {80, 20}, [scale](ControlPane& owner, const Rect& place) {
     return MakeIconButton<ButtonWithIconAndCenteredText>(owner, place, scale);
   });
-  panel.AddRow("Twirly", {16, 16}, MakeTwirly<false>);
-  panel.AddRow("Twirly, open", {16, 16}, MakeTwirly<true>);
-  panel.AddRow("Custom", {60, 20}, [&client](ControlPane& owner, const Rect& place) {
+  panel.AddControls("Twirly", {16, 16}, MakeTwirly<false>);
+  panel.AddControls("Twirly, open", {16, 16}, MakeTwirly<true>);
+  panel.AddControls("Custom", {60, 20}, [&client](ControlPane& owner, const Rect& place) {
     return new CustomControl(&owner, place, &client);
   });
   panel.PaintSpecimens(page);

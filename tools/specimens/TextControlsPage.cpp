@@ -1,14 +1,11 @@
 // Controls with text, each in its states, which the events that lead there bring about.
 #include <array>
-#include <cstddef>
 #include <functional>
 #include <memory>
 #include <string>
-#include <vector>
 
 #include "drawing/Labeler.h"
 #include "toolkit/ComboPopupMenu.h"
-#include "toolkit/CustomPanel.h"
 #include "toolkit/HelpPanel.h"
 #include "toolkit/NumberParameter.h"
 #include "toolkit/TextLink.h"
@@ -16,71 +13,42 @@
 #include "toolkit/ThemeColors.h"
 #include "toolkit/TitledScrubber.h"
 #include "tools/specimens/Pages.h"
-#include "tools/specimens/StillWindow.h"
+#include "tools/specimens/SpecimenPanel.h"
 
 namespace {
 
-constexpr std::array<const char*, 6> kLooks = {"Normal",  "Over",     "Pressed",
-                                               "Focused", "Selected", "Disabled"};
 constexpr int32_t kFirstColumn = 72;
 constexpr int32_t kColumnStep = 94;
 constexpr int32_t kFirstRow = 22;
 constexpr int32_t kRowStep = 26;
-constexpr int32_t kWidth = 88;
-constexpr int32_t kHeight = 20;
-constexpr Point kNowhere = {1, 1};
+constexpr Point kControlSize = {88, 20};
+constexpr int32_t kToKeys = 40;  // from where the mouse presses to the left
 
-class TextControlsPanel : public CustomPanel {
+class TextControlsPanel : public SpecimenPanel {
  public:
-  TextControlsPanel() : CustomPanel({0, 0, 640, 400}, 0) {
-    SetWindowContext(&window);
+  TextControlsPanel() {
     amount.SetValue(12.5);
     name.SetValue(49895.3);
     AddRows();
     AddTexts();
   }
 
-  void PaintSpecimens(ImageBuffer& page) {
-    DrawTree(GetLocalBounds(), {0, 0}, page);
-    for (const Specimen& specimen : specimens) {
-      Lead(specimen);
-      DrawTree(specimen.place, {0, 0}, page);
-      Leave(specimen);
-    }
+  // The controls, then the list of one.
+  void PaintAll(ImageBuffer& page) {
+    PaintSpecimens(page);
     opened->OpenList();
     DrawTree(opened->GetList()->GetGlobalBounds(), {0, 0}, page);
     HidePopup();
   }
 
-  void Paint(const Rect& rect, ImageBuffer& buffer, const Point& position) override {
-    CustomPanel::Paint(rect, buffer, position);
-    const PaintArea area = AreaInBuffer(GetLocalBounds(), rect, position);
-    TextStyle style;
-    style.color = ThemeColors::Gray153;
-    style.clip = &area.clip;
-    SharedLabeler().SetFont(&FontSmall());
-    for (const Caption& caption : captions) {
-      SharedLabeler().DrawString(buffer, caption.text, area.bounds.left + caption.place.x,
-                                 area.bounds.top + caption.place.y, TextAlignment::kLeft, style);
-    }
-  }
-
  private:
-  struct Specimen {
-    ControlPane* focusable;
-    size_t look;
-    Rect place;
-    Point pointer;  // on what takes the press
-  };
-  struct Caption {
-    Point place;
-    const char* text;
-  };
-  // The control of a specimen, and the one in it that takes keys.
-  struct Made {
-    ControlPane* shown;
-    ControlPane* focusable;
-  };
+  static constexpr std::array<NamedLook, 6> kLooks = {{{Look::kNormal, "Normal"},
+                                                       {Look::kOver, "Over"},
+                                                       {Look::kPressed, "Pressed"},
+                                                       {Look::kFocused, "Focused"},
+                                                       {Look::kTextSelected, "Selected"},
+                                                       {Look::kDisabled, "Disabled"}}};
+  static constexpr Columns kColumns = {kLooks, kFirstColumn, kColumnStep};
 
   template <typename Control, typename... Arguments>
   Control* Add(Arguments... arguments) {
@@ -90,66 +58,63 @@ class TextControlsPanel : public CustomPanel {
   }
 
   void AddRows() {
-    for (size_t i = 0; i < kLooks.size(); ++i) {
-      captions.push_back({{kFirstColumn + static_cast<int32_t>(i) * kColumnStep, 8}, kLooks[i]});
-    }
-    AddRow(0, "Number", kWidth / 2, [this](const Rect& place) { return MakeNumber(place, 0); });
-    AddRow(1, "No box", kWidth / 2,
-           [this](const Rect& place) { return MakeNumber(place, kScrubberBare); });
-    AddRow(2, "With caption", kWidth - 4, [this](const Rect& place) {
+    AddColumnCaptions(kColumns, 8);
+    AddControls(0, "Number", kControlSize.x / 2,
+                [this](const Rect& place) { return MakeNumber(place, 0); });
+    AddControls(1, "No box", kControlSize.x / 2,
+                [this](const Rect& place) { return MakeNumber(place, kScrubberBare); });
+    AddControls(2, "With caption", kControlSize.x - 4, [this](const Rect& place) {
       auto* titled = Add<TitledScrubber>(place, std::string("Gain"), 32);
       titled->AddParameter(&amount);
-      return Made{titled, titled->GetScrubber()};
+      return titled;
     });
-    AddRow(3, "Editor", kWidth / 2, [this](const Rect& place) {
+    AddControls(3, "Editor", kControlSize.x / 2, [this](const Rect& place) {
       auto* editor = Add<TextEditor>(place);
       editor->SetText("Low drums");
-      return Made{editor, editor};
+      return editor;
     });
-    AddRow(4, "Too long", kWidth / 2, [this](const Rect& place) {
+    AddControls(4, "Too long", kControlSize.x / 2, [this](const Rect& place) {
       auto* editor = Add<TextEditor>(place);
       editor->SetText("A text that is wider than its field");
-      return Made{editor, editor};
+      return editor;
     });
-    AddRow(5, "Titled, empty", kWidth / 2, [this](const Rect& place) {
+    AddControls(5, "Titled, empty", kControlSize.x / 2, [this](const Rect& place) {
       auto* editor = Add<TextEditor>(place);
       editor->SetTitle("Name");
-      return Made{editor, editor};
+      return editor;
     });
-    AddRow(6, "Combo", kWidth - 8, [this](const Rect& place) {
+    AddControls(6, "Combo", kControlSize.x - 8, [this](const Rect& place) {
       auto* combo = Add<ComboPopupMenu>(place);
       combo->SetLabels({"Kick", "Snare", "-", "Hi-hat"});
       combo->SetText("Snare");
-      return Made{combo, combo->GetFirstChild()};
+      return combo;
     });
-    AddRow(7, "Link", 44, [this](const Rect& place) {
+    AddControls(7, "Link", 44, [this](const Rect& place) {
       auto* link = Add<TextLink>(place, std::string("Read more"));
-      return Made{link, link};
+      return link;
     });
-    AddRow(8, "Label", 44, [this](const Rect& place) {
+    AddControls(8, "Label", 44, [this](const Rect& place) {
       auto* label = Add<TextLabel>(place, std::string("Fixed text"));
-      return Made{label, label};
+      return label;
     });
   }
 
-  Made MakeNumber(const Rect& place, uint32_t flags) {
+  ControlPane* MakeNumber(const Rect& place, uint32_t flags) {
     auto* number = Add<NumericScrubber>(place, flags);
     number->AddParameter(&name);
     number->SetUnitText("Hz");
-    return {number, number};
+    return number;
   }
 
-  void AddRow(int32_t row, const char* caption, int32_t pressAt,
-              const std::function<Made(const Rect&)>& make) {
+  // pressAt   where the mouse presses a control, from its left
+  void AddControls(int32_t row, const char* caption, int32_t pressAt,
+                   const std::function<ControlPane*(const Rect&)>& make) {
     const int32_t top = kFirstRow + row * kRowStep;
-    captions.push_back({{6, top + 5}, caption});
-    for (size_t i = 0; i < kLooks.size(); ++i) {
-      const int32_t left = kFirstColumn + static_cast<int32_t>(i) * kColumnStep;
-      const Rect place = {left, top, left + kWidth, top + kHeight};
-      const Made made = make(place);
-      if (i == kLooks.size() - 1) made.shown->SetEnabled(false);
-      specimens.push_back({made.focusable, i, place, {left + pressAt, top + kHeight / 2}});
-    }
+    AddCaption({6, top + 5}, caption);
+    AddRow(
+        kColumns,
+        {top, kControlSize, {pressAt, kControlSize.y / 2}, {pressAt - kToKeys, kControlSize.y / 2}},
+        [&make](const Rect& place, Look) { return make(place); });
   }
 
   void AddTexts() {
@@ -169,35 +134,13 @@ class TextControlsPanel : public CustomPanel {
     off->SetTitle("Disabled");
     off->SetText("Nothing to help with.");
     off->SetEnabled(false);
-    opened = Add<ComboPopupMenu>(Rect{490, kTop, 630, kTop + kHeight});
+    opened = Add<ComboPopupMenu>(Rect{490, kTop, 630, kTop + kControlSize.y});
     opened->SetLabels({"Kick", "Snare", "-", "Hi-hat"});
     opened->SetText("Snare");
   }
 
-  void Lead(const Specimen& specimen) {
-    const std::string look = kLooks[specimen.look];
-    if (look == "Over" || look == "Pressed") MouseOver(specimen.pointer, {});
-    if (look == "Pressed") MouseDown(specimen.pointer, {}, false, kLeftButton);
-    if (look == "Focused" || look == "Selected") SetFocus(specimen.focusable, true);
-    if (look == "Selected") {
-      const Point inText = {specimen.pointer.x - 40, specimen.pointer.y};
-      MouseDown(inText, {}, true, kLeftButton);
-      MouseUp(inText, kLeftButton);
-    }
-  }
-
-  void Leave(const Specimen& specimen) {
-    HidePopup();
-    MouseUp(specimen.pointer, kLeftButton);
-    MouseOver(kNowhere, {});
-    ClearFocus(false);
-  }
-
-  StillWindow window;
   NumberParameter amount{"Gain", {-100, 100, 0, 1, 2}};
   NumberParameter name{"Frequency", {0, 100000, 0, 1, 1}};
-  std::vector<Specimen> specimens;
-  std::vector<Caption> captions;
   ComboPopupMenu* opened = nullptr;
 };
 
@@ -206,6 +149,6 @@ class TextControlsPanel : public CustomPanel {
 void DrawTextControlsPage(ImageBuffer& page) {
   SetScreenScale(page.Scale());
   TextControlsPanel panel;
-  panel.PaintSpecimens(page);
+  panel.PaintAll(page);
   SetScreenScale(1.0F);
 }

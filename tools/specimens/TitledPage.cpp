@@ -63,16 +63,16 @@ void PaintRoot(ImageBuffer& page, const Point& place) {
 void DrawTitledPage(ImageBuffer& page) {
   SetScreenScale(page.Scale());
   StockPanel panel;
-  panel.AddRow("Toggle", kSize, [](ControlPane& owner, const Rect& place) {
+  panel.AddControls("Toggle", kSize, [](ControlPane& owner, const Rect& place) {
     return new TitledToggle(&owner, place, "Loop", kTitleWidth);
   });
-  panel.AddRow("Check box", kSize, [](ControlPane& owner, const Rect& place) {
+  panel.AddControls("Check box", kSize, [](ControlPane& owner, const Rect& place) {
     auto* box = new TitledCheckbox(&owner, place, "Loop", kTitleWidth);
     box->GetCheckbox()->SetLabels("is on", "is off");
     return box;
   });
-  panel.AddRow("Popup", kSize, MakeDropDown<TitledPopup, 4>);
-  panel.AddRow("Scrolling popup", kSize, MakeDropDown<TitledScrollingPopup, 30>);
+  panel.AddControls("Popup", kSize, MakeDropDown<TitledPopup, 4>);
+  panel.AddControls("Scrolling popup", kSize, MakeDropDown<TitledScrollingPopup, 30>);
   const int32_t top = panel.NextTop() + 12;
   panel.AddCaption({84, top}, "Open");
   panel.AddCaption({440, top}, "A root of its own");

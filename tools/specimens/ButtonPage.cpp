@@ -1,32 +1,29 @@
-// A panel with each kind of button in each of its states, overlapping ones, kinds of labels, and a
-// menu.
-#include "tools/specimens/DemoPanel.h"
-
+// Each kind of button in each of its states, overlapping ones, kinds of labels, and a menu.
 #include <array>
-#include <cstddef>
+#include <functional>
 #include <memory>
 
 #include "drawing/Fonts.h"
 #include "drawing/Labeler.h"
+#include "toolkit/ButtonControl.h"
 #include "toolkit/QvButton.h"
 #include "toolkit/QvIconButton.h"
 #include "toolkit/QvIconButtonWithBG.h"
 #include "toolkit/ThemeColors.h"
 #include "tools/specimens/DemoIcon.h"
+#include "tools/specimens/DemoMenu.h"
 #include "tools/specimens/Pages.h"
+#include "tools/specimens/SpecimenPanel.h"
 
 namespace {
 
-constexpr int32_t kPanelId = 1;
 constexpr int32_t kFirstColumn = 92;
 constexpr int32_t kColumnStep = 53;
 constexpr int32_t kFirstRow = 28;
 constexpr int32_t kRowStep = 30;
 constexpr Point kButtonSize = {48, 20};
-constexpr Point kNowhere = {0, 0};  // the pointer is over no button there
-constexpr std::array<const char*, 8> kLookNames = {"Normal", "Over",     "Pressed", "Disabled",
-                                                   "On",     "On, over", "Focused", "Selected"};
-
+// Holds no buttons: room for a menu.
+constexpr Rect kMenuArea = {520, 24, 632, 392};
 template <typename Button>
 Button* AddButton(ControlPane& panel, const Rect& place, bool toggle,
                   const ImageBuffer* strip = nullptr, const Font* font = nullptr) {
@@ -44,45 +41,71 @@ void DrawLamps(ImageBuffer& strip) {
   strip.DrawFrame({17, 1, 31, 15}, ThemeColors::White, 1, 256, nullptr);
 }
 
-}  // namespace
+class ButtonPanel : public SpecimenPanel {
+ public:
+  // scale   of the picture that it will be painted on, 1 or 2, for the icons
+  explicit ButtonPanel(float scale);
 
-DemoPanel::DemoPanel(float scale)
-    : CustomPanel({0, 0, kWidth, kHeight}, kPanelId), iconScale(scale) {
-  SetWindowContext(&window);
+  // The buttons, then the menu.
+  void PaintAll(ImageBuffer& page);
+
+ private:
+  using MakeButton = std::function<ButtonControl*(const Rect& place, bool toggle)>;
+
+  void AddPlainKinds();
+  void AddPlateAndIconKinds();
+  void AddButtons(int32_t row, const char* caption, const MakeButton& makeButton);
+  void AddOverlaps();
+  void AddLabels();
+
+  static constexpr std::array<NamedLook, 8> kLooks = {{{Look::kNormal, "Normal"},
+                                                       {Look::kOver, "Over"},
+                                                       {Look::kPressed, "Pressed"},
+                                                       {Look::kDisabled, "Disabled"},
+                                                       {Look::kOn, "On"},
+                                                       {Look::kOnOver, "On, over"},
+                                                       {Look::kFocused, "Focused"},
+                                                       {Look::kSelected, "Selected"}}};
+  static constexpr Columns kColumns = {kLooks, kFirstColumn, kColumnStep};
+
+  float iconScale;
+  ImageBuffer strip;
+  DemoMenu menu;
+};
+
+ButtonPanel::ButtonPanel(float scale) : iconScale(scale) {
   DrawLamps(strip);
   AddPlainKinds();
   AddPlateAndIconKinds();
   AddOverlaps();
   AddLabels();
-  captions.push_back({{kMenuArea.left, 10}, "Menu"});
+  AddCaption({kMenuArea.left, 10}, "Menu");
 }
 
-void DemoPanel::AddPlainKinds() {
-  for (size_t i = 0; i < kLookNames.size(); ++i) {
-    captions.push_back({{kFirstColumn + static_cast<int32_t>(i) * kColumnStep, 10}, kLookNames[i]});
-  }
-  AddRow(0, "Plain", [this](const Rect& place, bool toggle) {
+void ButtonPanel::AddPlainKinds() {
+  AddColumnCaptions(kColumns, 10);
+  AddButtons(0, "Plain", [this](const Rect& place, bool toggle) {
     return AddButton<ButtonControl>(*this, place, toggle);
   });
-  AddRow(1, "Own colours", [this](const Rect& place, bool toggle) {
+  AddButtons(1, "Own colours", [this](const Rect& place, bool toggle) {
     auto* button = AddButton<ButtonControl>(*this, place, toggle);
     button->SetFrame(6.0F, 2);
     button->SetStateColors(kButtonNormal,
                            {ThemeColors::White, ThemeColors::Gray51, ThemeColors::Orange});
     return button;
   });
-  AddRow(2, "Strip of pictures", [this](const Rect& place, bool toggle) {
+  AddButtons(2, "Strip of pictures", [this](const Rect& place, bool toggle) {
     return AddButton<ButtonControl>(*this, place, toggle, &strip);
   });
 }
 
-void DemoPanel::AddPlateAndIconKinds() {
-  AddRow(3, "Label on plate", [this](const Rect& place, bool toggle) {
+void ButtonPanel::AddPlateAndIconKinds() {
+  AddButtons(3, "Label on plate", [this](const Rect& place, bool toggle) {
     auto* button = AddButton<QvButton>(*this, place, toggle);
     if (!toggle) button->SetLabels("Copy", "Copy");
     return button;
   });
-  AddRow(4, "Icon", [this](const Rect& place, bool toggle) {
+  AddButtons(4, "Icon", [this](const Rect& place, bool toggle) {
     auto* button = AddButton<QvIconButton>(*this, place, toggle);
     button->SetIcon(kButtonDisabled, MakeDemoIcon("Undo_Disabled.png", iconScale));
     button->SetIcon(kButtonNormal, MakeDemoIcon("Undo_Normal.png", iconScale));
@@ -92,7 +115,7 @@ void DemoPanel::AddPlateAndIconKinds() {
     if (toggle) button->SetIcon(kButtonPressedOver, MakeDemoIcon("Redo_Over.png", iconScale));
     return button;
   });
-  AddRow(5, "Icon on plate", [this](const Rect& place, bool toggle) {
+  AddButtons(5, "Icon on plate", [this](const Rect& place, bool toggle) {
     auto* button = AddButton<QvIconButtonWithBG>(*this, place, toggle);
     button->SetIcon(kButtonNormal, MakeDemoIcon("Flip_Normal.png", iconScale));
     button->SetIcon(kButtonOver, MakeDemoIcon("Flip_Over.png", iconScale));
@@ -102,22 +125,18 @@ void DemoPanel::AddPlateAndIconKinds() {
 }
 
 // One button for each look; those that are to stay down are toggles.
-void DemoPanel::AddRow(int32_t row, const char* caption, const MakeButton& makeButton) {
+void ButtonPanel::AddButtons(int32_t row, const char* caption, const MakeButton& makeButton) {
   const int32_t top = kFirstRow + row * kRowStep;
-  captions.push_back({{8, top + 5}, caption});
-  int32_t left = kFirstColumn;
-  for (size_t i = 0; i < kLookNames.size(); ++i, left += kColumnStep) {
-    const auto look = static_cast<Look>(i);
-    const Rect place = {left, top, left + kButtonSize.x, top + kButtonSize.y};
-    ButtonControl* button = makeButton(place, look == Look::kOn || look == Look::kOnOver);
-    if (look == Look::kDisabled) button->SetEnabled(false);
-    if (look == Look::kSelected) button->SetState(kStateSelected);
-    specimens.push_back({button, look, {left + kButtonSize.x / 2, top + kButtonSize.y / 2}});
-  }
+  AddCaption({8, top + 5}, caption);
+  constexpr Point kMiddle = {kButtonSize.x / 2, kButtonSize.y / 2};
+  AddRow(kColumns, {top, kButtonSize, kMiddle, kMiddle},
+         [&makeButton](const Rect& place, Look look) {
+           return makeButton(place, look == Look::kOn || look == Look::kOnOver);
+         });
 }
 
 // Pairs of which the second stands before the first, the pointer where both are.
-void DemoPanel::AddOverlaps() {
+void ButtonPanel::AddOverlaps() {
   constexpr int32_t kTop = 224;
   struct Pair {
     const char* caption;
@@ -128,25 +147,26 @@ void DemoPanel::AddOverlaps() {
                                            {"Front, pressed", kStateNormal, Look::kPressed},
                                            {"Disabled in front", kStateDisabled, Look::kOver},
                                            {"Hidden in front", kStateHidden, Look::kPressed}}};
-  captions.push_back({{8, kTop + 13}, "Overlapping"});
+  AddCaption({8, kTop + 13}, "Overlapping");
   int32_t left = kFirstColumn;
   for (const Pair& pair : kPairs) {
-    captions.push_back({{left, kTop}, pair.caption});
+    AddCaption({left, kTop}, pair.caption);
     auto* back = AddButton<QvButton>(*this, {left, kTop + 14, left + 60, kTop + 38}, false);
     auto* front = AddButton<QvButton>(*this, {left + 34, kTop + 26, left + 94, kTop + 50}, false);
     back->SetLabels("Back", "Back");
     front->SetLabels("Front", "Front");
     front->SetState(pair.frontState);
     QvButton* reached = pair.frontState == kStateNormal ? front : back;
-    specimens.push_back({reached, pair.look, {left + 46, kTop + 32}});
+    const Point both = {left + 46, kTop + 32};
+    AddSpecimen({pair.look, reached->GetBounds(), both, both});
     left += 106;
   }
 }
 
 // Alignments, insets, characters apart, a font of its own, and a label that is too long.
-void DemoPanel::AddLabels() {
+void ButtonPanel::AddLabels() {
   constexpr int32_t kTop = 296;
-  captions.push_back({{8, kTop + 5}, "Labels"});
+  AddCaption({8, kTop + 5}, "Labels");
   const auto add = [this](int32_t column, int32_t row, const char* label, const Font* font) {
     const int32_t left = kFirstColumn + column * 106;
     const int32_t top = kTop + row * kRowStep;
@@ -169,75 +189,18 @@ void DemoPanel::AddLabels() {
   add(3, 1, "A label that is too long for its button", nullptr);
 }
 
-void DemoPanel::PaintSpecimens(ImageBuffer& page) {
-  DrawTree(GetLocalBounds(), {0, 0}, page);
-  for (const Specimen& specimen : specimens) {
-    Lead(specimen);
-    DrawTree(specimen.button->GetBounds(), {0, 0}, page);
-    Leave(specimen);
-  }
+void ButtonPanel::PaintAll(ImageBuffer& page) {
+  PaintSpecimens(page);
   menu.Open(*this, {kMenuArea.left, kMenuArea.top});
   DrawTree(kMenuArea, {0, 0}, page);
   menu.Close(*this);
 }
 
-void DemoPanel::Lead(const Specimen& specimen) {
-  switch (specimen.look) {
-    case Look::kOver:
-      MouseOver(specimen.pointer, {});
-      break;
-    case Look::kPressed:
-      MouseOver(specimen.pointer, {});
-      MouseDown(specimen.pointer, {}, false, kLeftButton);
-      break;
-    case Look::kOn:
-      Click(specimen.pointer);
-      break;
-    case Look::kOnOver:
-      Click(specimen.pointer);
-      MouseOver(specimen.pointer, {});
-      break;
-    case Look::kFocused:
-      SetFocus(specimen.button, true);
-      break;
-    case Look::kNormal:
-    case Look::kDisabled:
-    case Look::kSelected:
-      break;
-  }
-}
-
-// Brings the button back, so that the panel can be painted again.
-void DemoPanel::Leave(const Specimen& specimen) {
-  if (specimen.look == Look::kPressed) MouseUp(specimen.pointer, kLeftButton);
-  if (specimen.look == Look::kOn || specimen.look == Look::kOnOver) Click(specimen.pointer);
-  MouseOver(kNowhere, {});
-  ClearFocus(true);
-}
-
-void DemoPanel::Click(const Point& pointer) {
-  MouseOver(pointer, {});
-  MouseDown(pointer, {}, false, kLeftButton);
-  MouseUp(pointer, kLeftButton);
-  MouseOver(kNowhere, {});
-}
-
-void DemoPanel::Paint(const Rect& rect, ImageBuffer& buffer, const Point& position) {
-  CustomPanel::Paint(rect, buffer, position);
-  const PaintArea area = AreaInBuffer(GetLocalBounds(), rect, position);
-  TextStyle style;
-  style.color = ThemeColors::Gray153;
-  style.clip = &area.clip;
-  SharedLabeler().SetFont(&FontSmall());
-  for (const Caption& caption : captions) {
-    SharedLabeler().DrawString(buffer, caption.text.c_str(), area.bounds.left + caption.place.x,
-                               area.bounds.top + caption.place.y, TextAlignment::kLeft, style);
-  }
-}
+}  // namespace
 
 void DrawButtonPage(ImageBuffer& page) {
   SetScreenScale(page.Scale());
-  DemoPanel panel(page.Scale());
-  panel.PaintSpecimens(page);
+  ButtonPanel panel(page.Scale());
+  panel.PaintAll(page);
   SetScreenScale(1.0F);
 }
