@@ -95,10 +95,12 @@ void CurveGraph::PaintSamples(const PaintArea& area, int32_t shownOpacity,
   for (int32_t i = 0; i < CurveSampleCount; ++i) {
     const int32_t top =
         std::min(Truncate<int32_t>(RowOfValue(curve->samples[i], height)), height - 1);
-    const Rect stroke = MovedBy(Rect{i, top, i + 1, height}, area.bounds.left, area.bounds.top);
-    buffer.FillRect(stroke, kFill, shownOpacity, &area.clip);
-    const Rect end = {stroke.left, stroke.top, stroke.right, stroke.top + 1};
-    buffer.FillRect(end, kLine, shownOpacity, &area.clip);
+    const auto fill = [&](int32_t bottom, ColorBGRA color) {
+      const Rect part = MovedBy(Rect{i, top, i + 1, bottom}, area.bounds.left, area.bounds.top);
+      buffer.FillRect(part, color, shownOpacity, &area.clip);
+    };
+    fill(height, kFill);
+    fill(top + 1, kLine);
   }
 }
 

@@ -75,9 +75,9 @@ void GradientStrip::PaintMarkers(const GradientView& view, const PaintArea& area
                                  int32_t shownOpacity, ImageBuffer& buffer) const {
   const int32_t stopCount = CountStops(view);
   for (int32_t i = 0; i < stopCount; ++i) {
-    const Point tip = {area.bounds.left + kRampLeft + HoldToRamp(view.stopPosition[i]),
-                       area.bounds.top + barHeight + kMarkerOffset};
-    DrawMarker(buffer, tip, PixelOf(view.stopRed[i], view.stopGreen[i], view.stopBlue[i]),
-               shownOpacity, area.clip);
+    const Point tip = {kRampLeft + HoldToRamp(view.stopPosition[i]), barHeight + kMarkerOffset};
+    DrawMarker(buffer, MovedBy(tip, area.bounds.left, area.bounds.top),
+               PixelOf(view.stopRed[i], view.stopGreen[i], view.stopBlue[i]), shownOpacity,
+               area.clip);
   }
 }

@@ -4,6 +4,7 @@
 #include "drawing/Labeler.h"
 #include "drawing/SharedPainter.h"
 #include "gradient/RampColor.h"
+#include "platform/SaturatedInt.h"
 #include "toolkit/MenuControl.h"
 #include "toolkit/PaintArea.h"
 #include "toolkit/ThemeColors.h"
@@ -70,7 +71,7 @@ void QvPresetDropDown::Paint(const Rect& rect, ImageBuffer& buffer, const Point&
   style.background = ThemeColors::Black;
   style.clip = &area.clip;
   Rect title = area.bounds;
-  title.left += kTitleInset;
+  title.left = SaturatedInt(int64_t{title.left} + kTitleInset);
   SharedLabeler().SetFont(&FontSmall());
   SharedLabeler().DrawStringInRect(buffer, kTitle, title, TextAlignment::kLeft, style);
   DrawArrow(buffer, area.bounds, style.color, area.clip);

@@ -9,6 +9,7 @@
 #include "gradient/GradientStops.h"
 #include "gradient/PanelIcon.h"
 #include "gradient/RampColor.h"
+#include "tests/gradient/CurveEditor.h"
 #include "tests/gradient/Editor.h"
 
 namespace {
@@ -163,6 +164,31 @@ TEST(GradientLook, AMenuRowShowsItsPresetAndIsLitUnderThePointer) {
     }
     EXPECT_EQ(At(picture, 260, top).red > 200, row == 2) << row;
   }
+}
+
+// The sanitizer sees sums that overflow.
+TEST(EditorLook, OneThatStandsFarAwayIsNotSeen) {
+  constexpr int32_t kFar = std::numeric_limits<int32_t>::max();
+  Editor map({StoredMap(std::vector<Stop>{{0, 1, 0, 0}, {200, 1, 0, 0}})});
+  CurveEditor curve({0, 100, 200}, true);
+  const auto expectUnseen = [](auto& editor) {
+    ImageBuffer picture;
+    picture.Allocate(20, 20, false);
+    for (const Point& place : {Point{kFar, kFar}, Point{-kFar, -kFar}, Point{0, kFar},
+                               Point{kFar, 0}, Point{-kFar, 0}, Point{0, -kFar}}) {
+      editor.Paint(picture, place);
+    }
+    for (int32_t y = 0; y < 20; ++y) {
+      for (int32_t x = 0; x < 20; ++x) EXPECT_EQ(picture.Row(y)[x], ColorBGRA(0U));
+    }
+  };
+  expectUnseen(map);
+  expectUnseen(curve);
+  map.Click(Editor::kPresets);
+  curve.Click(CurveEditor::kCurveMode);
+  curve.Click(CurveEditor::kPresets);
+  expectUnseen(map);
+  expectUnseen(curve);
 }
 
 }  // namespace
