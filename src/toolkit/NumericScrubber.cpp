@@ -25,17 +25,11 @@ std::string WithoutPercent(std::string text) {
 NumericScrubber::NumericScrubber(ControlPane* ownerPane, const Rect& initialBounds,
                                  uint32_t scrubberFlags, const Font* textFont,
                                  const Font* newUnitFont, bool inFocusRing)
-    : ControlPane(ownerPane, initialBounds),
-      field(textFont != nullptr ? *textFont : FontDefault()),
+    : FieldControl(ownerPane, initialBounds, textFont),
       unitFont(newUnitFont != nullptr ? newUnitFont : &FontDefault()),
       flags(scrubberFlags) {
   TopControlPane* const root = inFocusRing ? Root() : nullptr;
   if (root != nullptr) root->AddToFocusRing(this);
-}
-
-void NumericScrubber::AddParameter(Parameter* parameter) {
-  ControlPane::AddParameter(parameter);
-  SyncFromParameters();
 }
 
 void NumericScrubber::AddListener(NumericScrubberListener* listener) {
@@ -68,20 +62,6 @@ void NumericScrubber::SetUnitText(const std::string& text) {
   SetDirty(true);
 }
 
-TopControlPane* NumericScrubber::Root() {
-  return GetOwner() != nullptr ? GetTopOwnerPtr() : nullptr;
-}
-
-bool NumericScrubber::HasFocus() {
-  const TopControlPane* const root = Root();
-  return root != nullptr && root->GetFocus() == this;
-}
-
-void NumericScrubber::SetEnabled(bool enabled) {
-  ControlPane::SetEnabled(enabled);
-  SetDirty(true);
-}
-
 void NumericScrubber::OnFocusGained() {
   pressPending = false;
   field.Edit().SetText(WithoutPercent(GetText()));
@@ -93,8 +73,7 @@ void NumericScrubber::OnFocusGained() {
 
 void NumericScrubber::OnFocusLost() {
   const ControlWatch self(this);
-  const TopControlPane* const root = Root();
-  if (root != nullptr && root->FocusNotifies()) TakeTypedText();
+  if (KeepsEdit()) TakeTypedText();
   if (!self) return;
   ShowParameter();
   SetDirty(true);
@@ -132,14 +111,6 @@ bool NumericScrubber::OnKeyDown(WindowContext* /*context*/, int32_t key,
     return key == kKeyReturn || key == kKeyEscape;
   }
   SetDirty(true);
-  return true;
-}
-
-bool NumericScrubber::OnKeyUp(WindowContext* /*context*/, int32_t key,
-                              const Modifiers& /*modifiers*/) {
-  if (key != kKeyReturn && key != kKeyEscape) return false;
-  TopControlPane* const root = Root();
-  if (root != nullptr && root->GetFocus() == this) root->ClearFocus(key == kKeyReturn);
   return true;
 }
 

@@ -5,9 +5,8 @@
 #include <set>
 #include <string>
 
-#include "toolkit/ControlPane.h"
+#include "toolkit/FieldControl.h"
 #include "toolkit/NumericScrubberListener.h"
-#include "toolkit/TextField.h"
 
 // Bits of the flags.
 enum ScrubberFlag : uint32_t {
@@ -16,7 +15,7 @@ enum ScrubberFlag : uint32_t {
 
 // Shows and sets the first parameter that is added. A click, or a press held still for 0.6 s,
 // begins typing; a drag steps the value without limit while the pointer is hidden.
-class NumericScrubber : public ControlPane {
+class NumericScrubber : public FieldControl {
  public:
   static constexpr int32_t kMaxDigits = 8;
   static constexpr int32_t kHoldMs = 600;
@@ -31,19 +30,14 @@ class NumericScrubber : public ControlPane {
   void OnMouseDown(WindowContext* context, const Point& point) override;
   void OnMouseDrag(WindowContext* context, const Point& point) override;
   void OnMouseUp(WindowContext* context, const Point& point) override;
-  void OnMouseEnter() override;
-  void OnMouseLeave() override;
   void OnIdle(WindowContext* context) override;
   void OnFocusGained() override;
   void OnFocusLost() override;
   bool OnKeyDown(WindowContext* context, int32_t key, const Modifiers& modifiers) override;
-  bool OnKeyUp(WindowContext* context, int32_t key, const Modifiers& modifiers) override;
   // 1 is the cursor of text, 5 that of a drag.
   int32_t GetCursorAt(WindowContext* context, const Point& point,
                       const Modifiers& modifiers) override;
-  void AddParameter(Parameter* parameter) override;
   bool SyncFromParameters() override;
-  void SetEnabled(bool enabled) override;
   void Paint(const Rect& rect, ImageBuffer& buffer, const Point& position) override;
 
   // Not owned; each is told once.
@@ -53,18 +47,12 @@ class NumericScrubber : public ControlPane {
   virtual bool IsValidChar(int32_t code) const;
   // Drawn behind the number.
   virtual void SetUnitText(const std::string& text);
-  virtual const std::string& GetText() const { return field.Edit().Text(); }
-  virtual bool HasFocus();
-
-  const TextEditModel& Edit() const { return field.Edit(); }
 
  private:
   void PressTyping(const Point& point);
   void PressDial(WindowContext* context);
   void Recentre(WindowContext& context) const;
   void GiveBackPointer(WindowContext* context);
-  TopControlPane* Root();
-  void TakeFocus();
   void TypeChar(char typed);
   void StepValue(int32_t steps, const Modifiers& modifiers);
   bool TakeTypedText();
@@ -73,7 +61,6 @@ class NumericScrubber : public ControlPane {
   template <typename Tell>
   bool TellListeners(Tell tell);
 
-  TextField field;
   std::string unitText;
   const Font* unitFont;
   uint32_t flags;

@@ -92,27 +92,9 @@ void NumericScrubber::GiveBackPointer(WindowContext* context) {
   context->ShowCursor(true);
 }
 
-void NumericScrubber::TakeFocus() {
-  TopControlPane* const root = Root();
-  if (root != nullptr) root->SetFocus(this, true);
-}
-
-void NumericScrubber::OnMouseEnter() {
-  ControlPane::OnMouseEnter();
-  SetDirty(true);
-}
-
-void NumericScrubber::OnMouseLeave() {
-  ControlPane::OnMouseLeave();
-  SetDirty(true);
-}
-
 void NumericScrubber::OnIdle(WindowContext* context) {
-  if (HasFocus()) {
-    if (field.Blink()) SetDirty(true);
-    return;
-  }
-  if (!pressPending) return;
+  FieldControl::OnIdle(context);
+  if (HasFocus() || !pressPending) return;
   const uint32_t now = CurrentClock().Milliseconds();
   if (!holdArmed) {
     holdArmed = true;

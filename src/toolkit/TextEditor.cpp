@@ -14,8 +14,7 @@ constexpr int32_t kTextCursor = 1;
 }  // namespace
 
 TextEditor::TextEditor(ControlPane* ownerPane, const Rect& initialBounds, const Font* textFont)
-    : ControlPane(ownerPane, initialBounds),
-      field(textFont != nullptr ? *textFont : FontDefault()),
+    : FieldControl(ownerPane, initialBounds, textFont),
       font(textFont != nullptr ? textFont : &FontDefault()) {}
 
 void TextEditor::SetText(const std::string& text) {
@@ -35,23 +34,12 @@ void TextEditor::SetTitle(const std::string& newTitle) {
   SetDirty(true);
 }
 
-void TextEditor::SetEnabled(bool enabled) {
-  ControlPane::SetEnabled(enabled);
-  SetDirty(true);
-}
-
-bool TextEditor::HasFocus() {
-  const TopControlPane* const root = GetOwner() != nullptr ? GetTopOwnerPtr() : nullptr;
-  return root != nullptr && root->GetFocus() == this;
-}
-
 void TextEditor::OnMouseDown(WindowContext* /*context*/, const Point& point) {
   pressed = true;
   SetDirty(true);
-  TopControlPane* const root = GetOwner() != nullptr ? GetTopOwnerPtr() : nullptr;
   const bool hadFocus = HasFocus();
   const ControlWatch self(this);
-  if (root != nullptr) root->SetFocus(this, true);
+  TakeFocus();
   if (!self || !HasFocus()) return;
   // Without the focus the text's begin was shown, so that is what was pressed.
   if (!hadFocus) field.Edit().PlaceCaret(0);
@@ -73,20 +61,6 @@ void TextEditor::OnMouseUp(WindowContext* /*context*/, const Point& /*point*/) {
   SetDirty(true);
 }
 
-void TextEditor::OnMouseEnter() {
-  ControlPane::OnMouseEnter();
-  SetDirty(true);
-}
-
-void TextEditor::OnMouseLeave() {
-  ControlPane::OnMouseLeave();
-  SetDirty(true);
-}
-
-void TextEditor::OnIdle(WindowContext* /*context*/) {
-  if (HasFocus() && field.Blink()) SetDirty(true);
-}
-
 void TextEditor::OnFocusGained() {
   textBefore = GetText();
   field.RestartBlink();
@@ -95,9 +69,7 @@ void TextEditor::OnFocusGained() {
 
 void TextEditor::OnFocusLost() {
   SetDirty(true);
-  const TopControlPane* const root = GetOwner() != nullptr ? GetTopOwnerPtr() : nullptr;
-  const bool keeps = root != nullptr && root->FocusNotifies();
-  if (!keeps || !TakeText()) {
+  if (!KeepsEdit() || !TakeText()) {
     field.Edit().SetText(textBefore);
     SyncFromParameters();
   } else {
@@ -128,20 +100,9 @@ bool TextEditor::OnKeyDown(WindowContext* /*context*/, int32_t key,
   return true;
 }
 
-bool TextEditor::OnKeyUp(WindowContext* /*context*/, int32_t key, const Modifiers& /*modifiers*/) {
-  if (key != kKeyReturn && key != kKeyEscape) return false;
-  if (HasFocus()) GetTopOwnerPtr()->ClearFocus(key == kKeyReturn);
-  return true;
-}
-
 int32_t TextEditor::GetCursorAt(WindowContext* /*context*/, const Point& point,
                                 const Modifiers& /*modifiers*/) {
   return Contains(GetLocalBounds(), point) ? kTextCursor : 0;
-}
-
-void TextEditor::AddParameter(Parameter* parameter) {
-  ControlPane::AddParameter(parameter);
-  SyncFromParameters();
 }
 
 bool TextEditor::SyncFromParameters() {
