@@ -1,4 +1,4 @@
-// A row of cells, exactly one of which is on.
+// A row of cells, each a text or a picture, exactly one of which is on.
 #include "toolkit/GroupControl.h"
 
 #include "toolkit/RectAlgebra.h"
@@ -21,44 +21,7 @@ void GroupControl::AddStripCell(const ImageBuffer* strip) {
 
 void GroupControl::AddCell(const Cell& cell) {
   cells.push_back(cell);
-  if (activeCell < 0) activeCell = 0;
-  SetDirty(true);
-}
-
-void GroupControl::SetActiveCell(int32_t index) {
-  if (index < 0 || index >= GetCellCount() || index == activeCell) return;
-  activeCell = index;
-  SetDirty(true);
-}
-
-void GroupControl::OnMouseDown(WindowContext* /*context*/, const Point& point) {
-  const int32_t index = FindCell(point);
-  pressedCell = index;
-  if (index >= 0 && index != activeCell) {
-    activeCell = index;
-    if (!RedrawAndTellListener()) return;
-  }
-  RedrawAndTellPress();
-}
-
-void GroupControl::OnMouseUp(WindowContext* /*context*/, const Point& /*point*/) {
-  pressedCell = -1;
-  RedrawAndTellRelease();
-}
-
-void GroupControl::OnMouseLeave() {
-  StockControl::OnMouseLeave();
-  hoverCell = -1;
-}
-
-int32_t GroupControl::GetCursorAt(WindowContext* /*context*/, const Point& point,
-                                  const Modifiers& /*modifiers*/) {
-  const int32_t index = FindCell(point);
-  if (index != hoverCell) {
-    hoverCell = index;
-    RedrawSelf();
-  }
-  return 0;
+  TakeNewCell();
 }
 
 void GroupControl::Paint(const Rect& rect, ImageBuffer& buffer, const Point& position) {
@@ -74,10 +37,11 @@ void GroupControl::Paint(const Rect& rect, ImageBuffer& buffer, const Point& pos
 }
 
 void GroupControl::PaintCell(const PaintTarget& target, const Rect& place, int32_t index) {
-  const bool active = index == activeCell;
-  const bool over = index == hoverCell && IsEnabled();
-  ColorBGRA fill = over ? ThemeColors::MenuFrame : ThemeColors::Gray25;
-  if (active) fill = index == pressedCell || over ? StockColors::AccentOver : StockColors::Accent;
+  const CellLook look = LookOf(index);
+  ColorBGRA fill = look.over ? ThemeColors::MenuFrame : ThemeColors::Gray25;
+  if (look.active) {
+    fill = look.pressed || look.over ? StockColors::AccentOver : StockColors::Accent;
+  }
   target.buffer.FillRect(place, fill, target.opacity, &target.clip);
   if (index > 0) {
     const Rect line = {place.left, place.top, SaturatedInt(int64_t{place.left} + 1), place.bottom};
@@ -86,14 +50,14 @@ void GroupControl::PaintCell(const PaintTarget& target, const Rect& place, int32
   PaintStrip(target, place, index);
   DrawCaption(target, cells[static_cast<size_t>(index)].text, InsetBy(place, 1),
               TextAlignment::kCentre,
-              active || over ? StockColors::TextOver : ThemeColors::Gray153);
+              look.active || look.over ? StockColors::TextOver : ThemeColors::Gray153);
 }
 
 void GroupControl::PaintStrip(const PaintTarget& target, const Rect& place, int32_t index) const {
   const ImageBuffer* const strip = cells[static_cast<size_t>(index)].strip;
   if (strip == nullptr) return;
   const int32_t half = strip->Width() / 2;
-  const int32_t first = index == activeCell ? half : 0;
+  const int32_t first = LookOf(index).active ? half : 0;
   const int64_t x = place.left + (WidthOf(place) - half) / 2;
   const int64_t y = place.top + (HeightOf(place) - strip->Height()) / 2;
   const Rect clip = Intersection(target.clip, place);

@@ -34,51 +34,14 @@ void DrawTabShape(const PaintTarget& target, const Rect& place, ColorBGRA fill, 
 
 void TabControl::AddTab(const std::string& caption) {
   tabs.push_back(caption);
-  if (activeTab < 0) activeTab = 0;
-  SetDirty(true);
-}
-
-void TabControl::SetActiveTab(int32_t index) {
-  if (index < 0 || index >= GetTabCount() || index == activeTab) return;
-  activeTab = index;
-  SetDirty(true);
-}
-
-void TabControl::OnMouseDown(WindowContext* /*context*/, const Point& point) {
-  const int32_t index = FindTab(point);
-  pressedTab = index;
-  if (index >= 0 && index != activeTab) {
-    activeTab = index;
-    if (!RedrawAndTellListener()) return;
-  }
-  RedrawAndTellPress();
-}
-
-void TabControl::OnMouseUp(WindowContext* /*context*/, const Point& /*point*/) {
-  pressedTab = -1;
-  RedrawAndTellRelease();
-}
-
-void TabControl::OnMouseLeave() {
-  StockControl::OnMouseLeave();
-  hoverTab = -1;
-}
-
-int32_t TabControl::GetCursorAt(WindowContext* /*context*/, const Point& point,
-                                const Modifiers& /*modifiers*/) {
-  const int32_t index = FindTab(point);
-  if (index != hoverTab) {
-    hoverTab = index;
-    RedrawSelf();
-  }
-  return 0;
+  TakeNewCell();
 }
 
 void TabControl::Paint(const Rect& rect, ImageBuffer& buffer, const Point& position) {
   const PaintArea area = AreaToPaint(rect, position);
   const PaintTarget target = TargetFor(buffer, area);
   const std::vector<Rect> places = LayOutTabs();
-  for (int32_t index = 0; index < GetTabCount(); ++index) {
+  for (int32_t index = 0; index < GetCellCount(); ++index) {
     const Rect place =
         MovedBy(places[static_cast<size_t>(index)], area.bounds.left, area.bounds.top);
     if (!IsEmpty(Intersection(place, area.clip))) PaintTab(target, place, index);
@@ -89,15 +52,14 @@ void TabControl::Paint(const Rect& rect, ImageBuffer& buffer, const Point& posit
 }
 
 void TabControl::PaintTab(const PaintTarget& target, const Rect& place, int32_t index) {
-  const bool active = index == activeTab;
-  const bool over = index == hoverTab && IsEnabled();
-  ColorBGRA fill = over ? kOverFill : kFill;
-  if (active) fill = index == pressedTab ? kPressedFill : kActiveFill;
-  DrawTabShape(target, place, fill, active ? ThemeColors::Gray102 : ThemeColors::MenuFrame);
-  const bool bright = over || active;
+  const CellLook look = LookOf(index);
+  ColorBGRA fill = look.over ? kOverFill : kFill;
+  if (look.active) fill = look.pressed ? kPressedFill : kActiveFill;
+  DrawTabShape(target, place, fill, look.active ? ThemeColors::Gray102 : ThemeColors::MenuFrame);
+  const bool bright = look.over || look.active;
   DrawCaption(target, tabs[static_cast<size_t>(index)], InsetBy(place, 1), TextAlignment::kCentre,
               bright ? StockColors::TextOver : ThemeColors::Gray153);
-  if (active) PaintFocus(target, InsetBy(place, 1), kCornerRadius);
+  if (look.active) PaintFocus(target, InsetBy(place, 1), kCornerRadius);
 }
 
 std::vector<Rect> TabControl::LayOutTabs() const {
@@ -124,7 +86,7 @@ std::vector<Rect> TabControl::LayOutTabs() const {
   return places;
 }
 
-int32_t TabControl::FindTab(const Point& point) const {
+int32_t TabControl::FindCell(const Point& point) const {
   const std::vector<Rect> places = LayOutTabs();
   const auto found = std::find_if(places.begin(), places.end(),
                                   [&point](const Rect& place) { return Contains(place, point); });

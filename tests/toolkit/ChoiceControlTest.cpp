@@ -42,15 +42,14 @@ TEST(TabControl, TabsStandSideBySideAndShrinkInsteadOfLeavingTheRow) {
   }
 }
 
-template <typename Row>
-void ExpectNewsOnlyOfAnotherOne(Row& row, StockStage& stage, int32_t (Row::*active)() const) {
+void ExpectNewsOnlyOfAnotherOne(CellRow& row, StockStage& stage) {
   row.SetListener(&stage);
   const char* const wanted[] = {"pr", "cpr", "pr"};
   const Point points[] = {{5, 5}, {45, 5}, {45, 5}};
   for (int32_t i = 0; i < 3; ++i) {
     stage.Click(points[i]);
     EXPECT_EQ(stage.Heard(), wanted[i]) << i;
-    EXPECT_EQ((row.*active)(), i == 0 ? 0 : 1) << i;
+    EXPECT_EQ(row.GetActiveCell(), i == 0 ? 0 : 1) << i;
   }
 }
 
@@ -58,10 +57,10 @@ TEST(ChoiceControls, TheListenerHearsOnlyOfAnotherChoice) {
   StockStage stage;
   auto& group = stage.Add<GroupControl>(Rect{0, 0, 60, 20});
   for (int32_t i = 0; i < 2; ++i) group.AddTextCell("");
-  ExpectNewsOnlyOfAnotherOne(group, stage, &GroupControl::GetActiveCell);
+  ExpectNewsOnlyOfAnotherOne(group, stage);
   auto& tabs = stage.Add<TabControl>(Rect{0, 0, 60, 20});
   for (int32_t i = 0; i < 2; ++i) tabs.AddTab("Tab");
-  ExpectNewsOnlyOfAnotherOne(tabs, stage, &TabControl::GetActiveTab);
+  ExpectNewsOnlyOfAnotherOne(tabs, stage);
 }
 
 TEST(Twirly, OnlyAReleaseInsideTurnsIt) {
