@@ -1,6 +1,7 @@
 // A window that the event stands for.
 #include "host/WindowContext_AE.h"
 
+#include "platform/HeldKeys.h"
 #include "platform/Pointer.h"
 #include "toolkit/RectAlgebra.h"
 
@@ -24,7 +25,9 @@ Point WindowContext_AE::GetMousePosition() const {
 }
 
 Modifiers WindowContext_AE::GetModifiers() const {
-  return pointer.modifiers;
+  const std::optional<HeldKeys> held = GetHeldKeys();
+  if (!held) return pointer.modifiers;
+  return {held->shift, held->alt, held->alt, held->control, held->space};
 }
 
 void WindowContext_AE::ShowCursor(bool show) {

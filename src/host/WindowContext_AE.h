@@ -18,7 +18,7 @@ class WindowContext_AE final : public WindowContext {
 
   Rect GetClientRect() const override;      // the panel's frame
   Point GetMousePosition() const override;  // the point of the last event of the mouse
-  Modifiers GetModifiers() const override;  // of that event
+  Modifiers GetModifiers() const override;  // of this moment, or else of that event
   // Asks the system only where the pointer has to change.
   void ShowCursor(bool show) override;
   void SetCursor(int32_t id) override { cursorId = id; }
