@@ -67,11 +67,13 @@ TEST_F(RawMouse, CountsBeyondTheEdgeOfTheScreen) {
   DestroyWindow(window);
 }
 
-TEST_F(RawMouse, StandsStillWithADeviceThatNoWindowShares) {
+TEST_F(RawMouse, StandsStillWithADeviceThatNoWindowSharesUntilTheRelease) {
   libraryModule = GetModuleHandleA(nullptr);
   StartRawMouse(nullptr, {});
   SetPointerPosition({300, 200});
   EXPECT_EQ(ReadMovement(), Movement(0, 0));
+  StopRawMouse();
+  EXPECT_EQ(ReadMovement(), Movement(100, 50));  // the pointer's, from the press on
 }
 
 }  // namespace
