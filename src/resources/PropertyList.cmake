@@ -8,7 +8,7 @@ set(maker ${CMAKE_CURRENT_BINARY_DIR}/make_property_list)
 set(property_list ${CMAKE_CURRENT_BINARY_DIR}/PropertyList.bin)
 add_custom_command(
   OUTPUT ${property_list}
-  COMMAND ${DELVIOR_HOST_CXX} -std=c++20 -Wall -Wextra -Werror
+  COMMAND ${DELVIOR_HOST_CXX} -std=c++20 -Wall -Wextra -Wconversion -Wshadow -Werror
     -I${PROJECT_SOURCE_DIR}/src -I${PROJECT_SOURCE_DIR}/src/sdk
     -MMD -MF ${maker}.d -MT ${property_list} ${maker_source} -o ${maker}
   COMMAND ${maker} ${property_list}
