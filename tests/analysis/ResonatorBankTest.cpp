@@ -81,7 +81,7 @@ TEST(ResonatorForms, AgreeOnMasksOfEveryCountAtAnyPlace) {
 TEST(ResonatorForms, AgreeOnTailsThatSinkBelowTheNormalNumbers) {
   for (const size_t second : {0U, 1000U, 4000U, 6600U}) {
     for (const int16_t click : {int16_t{1}, int16_t{-32768}}) {
-      BankCase run{TunedBank(~0U, 1.0), std::vector<int16_t>(2 * 7350), 1};
+      BankCase run{TunedBank(~0U, 1.0), std::vector<int16_t>(size_t{2} * 7350), 1};
       run.samples[0] = run.samples[2 * second] = click;
       ASSERT_EQ(FindDifference(run), "") << "clicks of " << click << " at 0 and " << second;
     }

@@ -1,6 +1,7 @@
 // Catches a thread that computes otherwise after the band levels than before them.
 #include <xmmintrin.h>
 
+#include <bit>
 #include <limits>
 #include <stdexcept>
 
