@@ -17,10 +17,14 @@ int ReportFigures(const std::vector<Figure>& figures, int argc, char** argv) {
   int status = 0;
   for (const Figure& figure : figures) {
     std::printf("%s\t%.2f%s\t", figure.name.c_str(), figure.value, figure.unit);
-    if (figure.wanted > 0.0) std::printf("at most %.3g%s", figure.wanted, figure.unit);
+    const bool isFloor = figure.better == Better::kLarger;
+    if (figure.wanted > 0.0) {
+      std::printf("at %s %.3g%s", isFloor ? "least" : "most", figure.wanted, figure.unit);
+    }
     std::printf("\n");
-    if (!isGated || figure.gate <= 0.0 || figure.value <= figure.gate) continue;
-    std::fprintf(stderr, "%s: %.2f%s is above the gate of %.3g%s\n", figure.name.c_str(),
+    if (!isGated || figure.gate <= 0.0) continue;
+    if (isFloor ? figure.value >= figure.gate : figure.value <= figure.gate) continue;
+    std::fprintf(stderr, "%s: %.2f%s is beyond the gate of %.3g%s\n", figure.name.c_str(),
                  figure.value, figure.unit, figure.gate, figure.unit);
     status = 1;
   }

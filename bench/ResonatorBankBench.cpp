@@ -1,20 +1,17 @@
 // What the forms of the resonator bank cost beside the plain loop, on music and on silence after a
-// click. With --gates the exit status is 1 where a form is slower than it has to be.
-#include <benchmark/benchmark.h>
-
-#include <algorithm>
+// click.
 #include <array>
 #include <cmath>
 #include <cstddef>
 #include <cstdint>
 #include <ctime>
-#include <iostream>
 #include <numbers>
 #include <random>
 #include <string>
 #include <string_view>
 #include <vector>
 
+#include "Figures.h"
 #include "analysis/ResonatorForms.h"
 #include "shell/ParameterTable.h"
 #include "tools/bankcases/BankCase.h"
@@ -50,7 +47,7 @@ std::vector<int16_t> MakeClick() {
   return samples;
 }
 
-ResonatorBank LowestBands(int64_t count, double Q) {
+ResonatorBank LowestBands(int count, double Q) {
   return TunedBank(static_cast<uint32_t>((uint64_t{1} << count) - 1), Q);
 }
 
@@ -62,114 +59,82 @@ double SecondsOf(const ResonatorForm& form, const ResonatorBank& bank,
   const std::clock_t begin = std::clock();
   for (int run = 0; run < kRuns; ++run) {
     form.sumMagnitudes(bank, {samples.data(), kFrames}, kChannelMix, sums);
-    benchmark::DoNotOptimize(sums.data());
-    benchmark::ClobberMemory();
   }
   return static_cast<double>(std::clock() - begin) / CLOCKS_PER_SEC / kRuns;
 }
 
-double Median(std::vector<double> values) {
-  const auto middle = values.begin() + static_cast<ptrdiff_t>(values.size() / 2);
-  std::nth_element(values.begin(), middle, values.end());
-  return *middle;
-}
-
-struct Gate {
-  const char* figure;
-  double least;
-  double most;
+// What is asked of a form's speed, in times the plain loop's.
+struct Demand {
+  int bands;
+  std::string_view form;
+  double wanted;
+  double gate;
 };
 
-// Well beside what a quiet machine gives: only a fault fails them, not a neighbour.
-constexpr double kNoLimit = 1e9;
-constexpr Gate kGates[] = {
-    {"Speed/32 AVX2", 10.0, kNoLimit}, {"Speed/11 AVX2", 7.0, kNoLimit},
-    {"Speed/1 AVX2", 0.9, kNoLimit},   {"Speed/32 SSE2", 5.0, kNoLimit},
-    {"Speed/1 SSE2", 0.9, kNoLimit},   {"Tail/32 AVX2", 0.0, 1.15},
-    {"Tail/32 SSE2", 0.0, 1.15},
-};
+constexpr Demand kDemands[] = {{32, "AVX2", 18.0, 10.0},
+                               {11, "AVX2", 9.5, 7.0},
+                               {1, "AVX2", 1.0, 0.9},
+                               {32, "SSE2", 7.0, 5.0},
+                               {1, "SSE2", 1.0, 0.9}};
 
-std::vector<std::string> missedGates;
-
-void Report(benchmark::State& state, const std::string& row, const char* form, double ratio) {
-  state.counters[form] = ratio;
-  const std::string figure = row + std::to_string(state.range(0)) + ' ' + form;
-  for (const Gate& gate : kGates) {
-    if (figure != gate.figure || (ratio >= gate.least && ratio <= gate.most)) continue;
-    missedGates.push_back(figure + " is " + std::to_string(ratio));
+Figure SpeedFigure(int bands, std::string_view form, double ratio) {
+  Figure figure{"Bank, " + std::to_string(bands) + " of 32 bands, " + std::string(form) +
+                    ", faster than the plain loop",
+                ratio, " times"};
+  figure.better = Better::kLarger;
+  for (const Demand& demand : kDemands) {
+    if (demand.bands != bands || demand.form != form) continue;
+    figure.wanted = demand.wanted;
+    figure.gate = demand.gate;
   }
+  return figure;
 }
 
-using Ratios = std::array<std::vector<double>, 3>;  // of each form, by round
+using Rounds = std::array<std::vector<double>, 3>;  // a ratio a round, for each form
 
-// How many times as fast as the plain loop the forms run through music.
-void Speed(benchmark::State& state) {
-  const ResonatorBank bank = LowestBands(state.range(0), kDefaultQ);
+// The forms take turns, and the ratio is the median of the rounds.
+void MeasureSpeed(int bands, std::vector<Figure>& figures) {
+  const ResonatorBank bank = LowestBands(bands, kDefaultQ);
   const std::vector<int16_t> music = MakeMusic();
   const auto forms = ResonatorForms();
-  Ratios ratios;
-  std::vector<double> plain;
-  while (state.KeepRunning()) {
-    plain.push_back(SecondsOf(forms[0], bank, music));
+  Rounds ratios;
+  for (int round = 0; round < kRounds; ++round) {
+    const double plain = SecondsOf(forms[0], bank, music);
     for (size_t i = 1; i < forms.size(); ++i) {
-      ratios.at(i).push_back(plain.back() / SecondsOf(forms[i], bank, music));
+      ratios.at(i).push_back(plain / SecondsOf(forms[i], bank, music));
     }
-    state.SetIterationTime(plain.back());
   }
   for (size_t i = 1; i < forms.size(); ++i) {
-    Report(state, "Speed/", forms[i].name, Median(ratios.at(i)));
+    figures.push_back(SpeedFigure(bands, forms[i].name, MedianOf(ratios.at(i))));
   }
-  const auto steps = static_cast<double>(state.range(0)) * static_cast<double>(kFrames);
-  state.counters["ns_per_band_sample"] = 1e9 * Median(plain) / steps;
 }
 
-// How many times as long as through music the forms take through silence after a click. At the
-// largest damping the tail sinks below the normal numbers within the window.
-void Tail(benchmark::State& state) {
-  const ResonatorBank bank = LowestBands(state.range(0), 1.0);
+// At the largest damping the tail sinks below the normal numbers within the window. Only the plain
+// loop may take longer for it.
+void MeasureTail(std::vector<Figure>& figures) {
+  const ResonatorBank bank = LowestBands(kBandCount, 1.0);
   const std::vector<int16_t> music = MakeMusic();
   const std::vector<int16_t> click = MakeClick();
   const auto forms = ResonatorForms();
-  Ratios ratios;
-  while (state.KeepRunning()) {
+  Rounds ratios;
+  for (int round = 0; round < kRounds; ++round) {
     for (size_t i = 0; i < forms.size(); ++i) {
       const double seconds = SecondsOf(forms[i], bank, click);
       ratios.at(i).push_back(seconds / SecondsOf(forms[i], bank, music));
-      state.SetIterationTime(seconds);
     }
   }
   for (size_t i = 0; i < forms.size(); ++i) {
-    Report(state, "Tail/", forms[i].name, Median(ratios.at(i)));
+    const std::string form = forms[i].name;
+    figures.push_back({"Bank, 32 of 32 bands, " + form + ", as long in silence after a click",
+                       MedianOf(ratios.at(i)), " times", i == 0 ? 0.0 : 1.05, i == 0 ? 0.0 : 1.15});
   }
-}
-
-BENCHMARK(Speed)
-    ->Arg(1)
-    ->Arg(4)
-    ->Arg(8)
-    ->Arg(11)
-    ->Arg(16)
-    ->Arg(32)
-    ->Iterations(kRounds)
-    ->UseManualTime();
-BENCHMARK(Tail)->Arg(32)->Iterations(kRounds)->UseManualTime();
-
-// Takes `option` out of the arguments and says whether it was there.
-bool TakeOption(int& argc, char** argv, std::string_view option) {
-  char** const end = std::remove(argv, argv + argc, option);
-  const bool wasThere = end != argv + argc;
-  argc = static_cast<int>(end - argv);
-  return wasThere;
 }
 
 }  // namespace
 
 int main(int argc, char** argv) {
-  const bool hasGates = TakeOption(argc, argv, "--gates");
-  benchmark::Initialize(&argc, argv);
-  if (benchmark::ReportUnrecognizedArguments(argc, argv)) return 2;
-  benchmark::RunSpecifiedBenchmarks();
-  if (!hasGates) return 0;
-  for (const std::string& miss : missedGates) std::cerr << miss << '\n';
-  return missedGates.empty() ? 0 : 1;
+  std::vector<Figure> figures;
+  for (const int bands : {1, 4, 8, 11, 16, 32}) MeasureSpeed(bands, figures);
+  MeasureTail(figures);
+  return ReportFigures(figures, argc, argv);
 }
