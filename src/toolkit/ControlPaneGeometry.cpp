@@ -36,12 +36,12 @@ Rect ControlPane::GetLocalBounds() const {
 }
 
 void ControlPane::ClipToLocalBounds(Rect* rect) const {
-  *rect = IntersectionOf(*rect, GetLocalBounds());
+  *rect = ClampedInto(*rect, GetLocalBounds());
 }
 
 void ControlPane::ClipToVisibleArea(Rect* rect) const {
   LocalToOwnerRect(rect);
-  *rect = IntersectionOf(*rect, bounds);
+  *rect = ClampedInto(*rect, bounds);
   if (owner != nullptr) owner->ClipToVisibleArea(rect);
   OwnerToLocalRect(rect);
 }

@@ -145,7 +145,7 @@ ControlPane* ControlPane::FindOccluder(const Rect& rect) const {
 void ControlPane::DrawChild(ControlPane& child, const Rect& rect, const Point& origin,
                             ImageBuffer& buffer) {
   if (!child.IsVisible()) return;
-  Rect area = IntersectionOf(rect, child.bounds);
+  Rect area = ClampedInto(rect, child.bounds);
   if (IsEmpty(area)) return;
   Point childOrigin = origin;
   child.OwnerToLocalRect(&area);

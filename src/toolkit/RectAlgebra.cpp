@@ -10,11 +10,13 @@ Rect UnionOf(const Rect& a, const Rect& b) {
           std::max(a.bottom, b.bottom)};
 }
 
-Rect IntersectionOf(const Rect& a, const Rect& b) {
-  if (IsEmpty(a)) return a;
-  if (IsEmpty(b)) return {};
-  return {std::clamp(a.left, b.left, b.right), std::clamp(a.top, b.top, b.bottom),
-          std::clamp(a.right, b.left, b.right), std::clamp(a.bottom, b.top, b.bottom)};
+Rect ClampedInto(const Rect& rect, const Rect& limits) {
+  if (IsEmpty(rect)) return rect;
+  if (IsEmpty(limits)) return {};
+  return {std::clamp(rect.left, limits.left, limits.right),
+          std::clamp(rect.top, limits.top, limits.bottom),
+          std::clamp(rect.right, limits.left, limits.right),
+          std::clamp(rect.bottom, limits.top, limits.bottom)};
 }
 
 Rect MovedBy(const Rect& rect, int64_t dx, int64_t dy) {

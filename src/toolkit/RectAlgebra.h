@@ -9,9 +9,9 @@
 // The smallest rectangle round both. An empty a gives b, whatever b is; an empty b gives a.
 Rect UnionOf(const Rect& a, const Rect& b);
 
-// Clamps each edge of a into b, which can leave a empty without making it all zero. An empty a
-// stays as it is; an empty b makes it all zero.
-Rect IntersectionOf(const Rect& a, const Rect& b);
+// Each edge held to the limits: beside Intersection, what lies outside becomes an empty rectangle
+// at the nearest edge. An empty rectangle stays as it is; empty limits make it all zero.
+Rect ClampedInto(const Rect& rect, const Rect& limits);
 
 // The rectangle moved; edges beyond what an int32 holds stop there.
 Rect MovedBy(const Rect& rect, int64_t dx, int64_t dy);
