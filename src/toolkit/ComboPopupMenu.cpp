@@ -4,27 +4,22 @@
 #include <algorithm>
 #include <memory>
 
-#include "drawing/SharedPainter.h"
 #include "toolkit/PaintArea.h"
 #include "toolkit/Plate.h"
 #include "toolkit/PopupPlacement.h"
+#include "toolkit/StockPaint.h"
 #include "toolkit/TopControlPane.h"
 
 namespace {
 
 constexpr int32_t kArrowWidth = 18;
 constexpr int32_t kGap = 1;
-constexpr double kArrowRadius = 1.0;
-constexpr ColorBGRA kDisabledPlate(0xFF313131);
-constexpr int32_t kOpaque = 256;
 constexpr const char* kSeparator = "-";
 
-void DrawArrow(ImageBuffer& buffer, const Rect& plate, ColorBGRA color, const Rect& clip) {
+void DrawArrow(const PaintTarget& target, const Rect& plate, ColorBGRA color) {
   const double middle = (static_cast<double>(plate.left) + plate.right) / 2;
   const double top = (static_cast<double>(plate.top) + plate.bottom) / 2 - 2;
-  SharedPath().SetRoundTriangle({middle - 4, top}, {middle + 4, top}, {middle, top + 5},
-                                kArrowRadius);
-  SharedRasterizer().DrawPath(SharedPath(), buffer, color, kOpaque, false, &clip, nullptr, 0.0);
+  FillTriangle(target, {middle - 4, top}, {middle + 4, top}, {middle, top + 5}, color);
 }
 
 }  // namespace
@@ -167,7 +162,7 @@ void ComboPopupMenu::Paint(const Rect& rect, ImageBuffer& buffer, const Point& p
   Rect plate = area.bounds;
   plate.left = std::max(plate.left, SaturatedInt(int64_t{plate.right} - kArrowWidth));
   const PlateLook look{IsEnabled(), IsMouseOver() && !pressed, pressed};
-  DrawPlate(buffer, plate, PlateColor(look, kDisabledPlate), area.clip);
+  DrawPlate(buffer, plate, PlateColor(look, StockColors::DisabledPlate), area.clip);
   const ColorBGRA arrow = IsEnabled() ? PlateTextColor(pressed) : ThemeColors::Gray102;
-  DrawArrow(buffer, plate, arrow, area.clip);
+  DrawArrow({buffer, area.clip}, plate, arrow);
 }

@@ -2,8 +2,8 @@
 #include "toolkit/HelpPanel.h"
 
 #include "drawing/Labeler.h"
-#include "drawing/SharedPainter.h"
 #include "toolkit/PaintArea.h"
+#include "toolkit/StockPaint.h"
 #include "toolkit/TextPanel.h"
 #include "toolkit/ThemeColors.h"
 
@@ -11,14 +11,8 @@ namespace {
 
 constexpr int32_t kMargin = 6;
 constexpr int32_t kHeadingGap = 4;
-constexpr int32_t kOpaque = 256;
 constexpr double kCornerRadius = 3.0;
 constexpr ColorBGRA kBack(0xFF262626);
-
-Rect InsetBy(const Rect& rect, int32_t inset) {
-  return {SaturatedInt(int64_t{rect.left} + inset), SaturatedInt(int64_t{rect.top} + inset),
-          SaturatedInt(int64_t{rect.right} - inset), SaturatedInt(int64_t{rect.bottom} - inset)};
-}
 
 }  // namespace
 
@@ -47,13 +41,8 @@ void HelpPanel::SetEnabled(bool enabled) {
 void HelpPanel::Paint(const Rect& rect, ImageBuffer& buffer, const Point& position) {
   const PaintArea area = AreaInBuffer(GetLocalBounds(), rect, position);
   if (IsEmpty(area.bounds)) return;
-  SharedPath().SetRoundRect(area.bounds, kCornerRadius, true, true, true, true);
-  const auto draw = [&](ColorBGRA color, double lineWidth) {
-    SharedRasterizer().DrawPath(SharedPath(), buffer, color, kOpaque, false, &area.clip, nullptr,
-                                lineWidth);
-  };
-  draw(kBack, 0);
-  draw(ThemeColors::MenuFrame, 1.0);
+  FillRound({buffer, area.clip}, area.bounds, kCornerRadius, kBack);
+  StrokeRound({buffer, area.clip}, area.bounds, kCornerRadius, ThemeColors::MenuFrame);
 
   Rect room = InsetBy(area.bounds, kMargin);
   const Rect inside = Intersection(room, area.clip);
