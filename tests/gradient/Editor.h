@@ -31,7 +31,7 @@ class Editor : public DemoEditor {
     for (char event = 0; words >> event;) {
       if (event != 'u') words >> at.x >> at.y;
       const Point place = OnStrip(at.x, at.y);
-      if (event == 'd' || event == 'D') Press(place, event == 'D');
+      if (event == 'd' || event == 'D') Press(place, {}, event == 'D');
       if (event == 'm') Drag(place);
       if (event == 'u') Release(place);
     }

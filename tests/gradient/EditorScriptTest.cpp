@@ -21,7 +21,7 @@ class RandomScript {
     editor.accepts = Pick(2) == 0;
     const Point place = AnyPlace();
     const int32_t event = Pick(16);
-    if (event < 4) editor.Press(place, event == 0);
+    if (event < 4) editor.Press(place, {}, event == 0);
     if (event >= 4 && event < 12) editor.Drag(place);
     if (event >= 12 && event < 15) editor.Release(place);
     if (event == 15) editor.Over(place);

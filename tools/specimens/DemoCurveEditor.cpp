@@ -14,8 +14,7 @@ template <char kCall, auto kAct>
 void DemoCurveEditor::Act(void* context) {
   auto& editor = *static_cast<DemoCurveEditor*>(context);
   kAct(editor);
-  editor.calls += kCall;
-  if (editor.onCall) editor.onCall(kCall);
+  editor.Hear(kCall);
 }
 
 template <auto kKept>
@@ -76,40 +75,7 @@ void DemoCurveEditor::Event(const std::function<void(EvolutionPanel&)>& deliver)
   if (panel != nullptr) deliver(*panel);
 }
 
-int32_t DemoCurveEditor::Over(const Point& point, const Modifiers& modifiers) {
-  int32_t cursor = 0;
-  Event([&](EvolutionPanel& target) { cursor = target.MouseOver(point, modifiers); });
-  return cursor;
-}
-
-void DemoCurveEditor::Press(const Point& point, const Modifiers& modifiers, bool isDouble) {
-  Event([&](EvolutionPanel& p) { p.MouseDown(point, modifiers, isDouble, kLeftButton); });
-}
-
-void DemoCurveEditor::Drag(const Point& point, const Modifiers& modifiers) {
-  Event([&](EvolutionPanel& p) { p.MouseDrag(point, 0, 0, modifiers, kLeftButton); });
-}
-
-void DemoCurveEditor::Release(const Point& point) {
-  Event([&](EvolutionPanel& target) { target.MouseUp(point, kLeftButton); });
-}
-
-void DemoCurveEditor::Key(int32_t key, const Modifiers& modifiers) {
-  Event([&](EvolutionPanel& target) { target.KeyDown(key, modifiers); });
-}
-
-void DemoCurveEditor::Click(const Point& point, const Modifiers& modifiers) {
-  Press(point, modifiers);
-  Release(point);
-}
-
 void DemoCurveEditor::Choose(int32_t preset) {
   Click(kPresets);
   Click(RowOf(preset));
-}
-
-void DemoCurveEditor::Paint(ImageBuffer& picture, const Point& place) {
-  Event([&](EvolutionPanel& target) {
-    target.DrawTree(target.GetLocalBounds(), {-place.x, -place.y}, picture);
-  });
 }

@@ -22,8 +22,7 @@ struct DemoEditor::Armed {
   static void Act(void* context) {
     auto& armed = *static_cast<Armed*>(context);
     kAct(armed.editor, armed.view);
-    armed.editor.calls += kCall;
-    if (armed.editor.onCall) armed.editor.onCall(kCall);
+    armed.editor.Hear(kCall);
   }
 
   template <auto kAsk>
@@ -84,34 +83,7 @@ void DemoEditor::Event(const std::function<void(GradientPanel&)>& deliver) {
   if (panel != nullptr) panel->ClearWindowContext();
 }
 
-void DemoEditor::Over(const Point& point) {
-  Event([&](GradientPanel& target) { target.MouseOver(point, {}); });
-}
-
-void DemoEditor::Press(const Point& point, bool isDouble) {
-  Event([&](GradientPanel& target) { target.MouseDown(point, {}, isDouble, kLeftButton); });
-}
-
-void DemoEditor::Drag(const Point& point) {
-  Event([&](GradientPanel& target) { target.MouseDrag(point, 0, 0, {}, kLeftButton); });
-}
-
-void DemoEditor::Release(const Point& point) {
-  Event([&](GradientPanel& target) { target.MouseUp(point, kLeftButton); });
-}
-
-void DemoEditor::Click(const Point& point) {
-  Press(point);
-  Release(point);
-}
-
 void DemoEditor::Choose(int32_t preset) {
   Click(kPresets);
   Click(RowOf(preset));
-}
-
-void DemoEditor::Paint(ImageBuffer& picture, const Point& place) {
-  Event([&](GradientPanel& target) {
-    target.DrawTree(target.GetLocalBounds(), {-place.x, -place.y}, picture);
-  });
 }
