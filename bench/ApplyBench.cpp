@@ -7,8 +7,9 @@
 #include <chrono>
 #include <cmath>
 #include <cstdint>
+#include <cstdio>
 #include <cstdlib>
-#include <ctime>
+#include <exception>
 #include <filesystem>
 #include <fstream>
 #include <functional>
@@ -182,9 +183,7 @@ std::vector<Figure> FiguresOf(const Costs& costs) {
   return figures;
 }
 
-}  // namespace
-
-int main(int argc, char** argv) {
+Costs Measure() {
   const std::vector<int16_t> song = MakeSong();
   const SongFile file(song);
   Stage finished(OptionsOfRun(), "song",
@@ -192,5 +191,16 @@ int main(int argc, char** argv) {
   finished.Session().PressApply(finished.Instance());
   Costs costs;
   for (int turn = 0; turn < kTurns; ++turn) AddTurn(song, file.path, finished, costs);
-  return ReportFigures(FiguresOf(costs), argc, argv);
+  return costs;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  try {
+    return ReportFigures(FiguresOf(Measure()), argc, argv);
+  } catch (const std::exception& failure) {
+    std::fprintf(stderr, "%s\n", failure.what());
+    return 1;
+  }
 }

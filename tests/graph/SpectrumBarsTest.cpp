@@ -21,7 +21,8 @@ Sheet UnevenGround() {
 
 struct PlainBars {
   Sheet& sheet;
-  int32_t width, height;
+  int32_t width = 0;
+  int32_t height = 0;
   const GraphInputs& in;
   GraphLayout at = MakeGraphLayout(width, height);
   int32_t segments = in.settings.quantizeValue;
@@ -64,11 +65,11 @@ struct PlainBars {
   }
 
   void CutSegments() const {
-    const auto filled =
-        static_cast<int32_t>(static_cast<float>(segment) * in.settings.fillSegment + 0.5F);
+    const float filled = static_cast<float>(segment) * in.settings.fillSegment + 0.5F;
+    const int32_t cleared = (segment - static_cast<int32_t>(filled)) / 2;
     for (int32_t k = 0; k < segments; ++k) {
       int32_t row = at.bottom - k * segment;
-      for (int32_t i = 0; i < (segment - filled) / 2; ++i, --row) {
+      for (int32_t i = 0; i < cleared; ++i, --row) {
         for (int32_t x = at.left; x < at.right; ++x) Store(x, row, {});
         if (row <= at.top) break;
       }
