@@ -28,9 +28,10 @@ struct PlainBars {
   int32_t segments = in.settings.quantizeValue;
   int32_t segment = at.graphHeight / segments;
 
-  void Store(int64_t x, int64_t y, PF_Pixel pixel) const {
-    if (x < 0 || y < 0 || x >= width || y >= height) return;
-    sheet.At(static_cast<int32_t>(x), static_cast<int32_t>(y)) = pixel;
+  void Store(int32_t row, int32_t first, int32_t end, PF_Pixel pixel) const {
+    for (int32_t x = first; x < end; ++x) {
+      if (x < width && row >= 0 && row < height) sheet.At(x, row) = pixel;
+    }
   }
 
   int32_t FirstColumn(size_t band) const {
@@ -58,9 +59,7 @@ struct PlainBars {
       rows = segment == 0 ? 0 : static_cast<int32_t>(count) * segment;
     }
     for (int32_t row = at.bottom; row > at.bottom - rows; --row) {
-      for (int32_t x = FirstColumn(band); x < FirstColumn(band + 1); ++x) {
-        Store(x, row, Color(band, row));
-      }
+      Store(row, FirstColumn(band), FirstColumn(band + 1), Color(band, row));
     }
   }
 
@@ -70,7 +69,7 @@ struct PlainBars {
     for (int32_t k = 0; k < segments; ++k) {
       int32_t row = at.bottom - k * segment;
       for (int32_t i = 0; i < cleared; ++i, --row) {
-        for (int32_t x = at.left; x < at.right; ++x) Store(x, row, {});
+        Store(row, at.left, at.right, {});
         if (row <= at.top) break;
       }
     }
@@ -80,8 +79,7 @@ struct PlainBars {
     for (int32_t row = at.bottom; row > at.bottom - at.graphHeight; --row) {
       for (size_t band = 0; band < kBandCount; ++band) {
         const int32_t first = FirstColumn(band);
-        const int32_t end = first + 4 < at.right ? first + 4 : at.right - 1;
-        for (int32_t x = first; x < end; ++x) Store(x, row, {});
+        Store(row, first, first + 4 < at.right ? first + 4 : at.right - 1, {});
       }
     }
   }
