@@ -7,6 +7,7 @@
 #include <set>
 #include <sstream>
 
+#include "tests/workbench/audio/TemporaryFolder.h"
 #include "tools/specimens/CurveReplay.h"
 #include "workbench/Failure.h"
 
@@ -14,24 +15,18 @@ namespace {
 
 class CurveReplay : public testing::Test {
  protected:
-  CurveReplay() { std::filesystem::remove_all(folder); }
-  ~CurveReplay() override { std::filesystem::remove_all(folder); }
-
   void Play(const std::string& script) const {
-    std::filesystem::create_directories(folder);
-    std::ofstream(folder / "e.txt") << script;
-    ReplayInCurveEditor(folder / "e.txt", folder / "pictures");
+    folder.Write("e.txt", script);
+    ReplayInCurveEditor(folder.Path() / "e.txt", folder.Path() / "pictures");
   }
   std::string Picture(const std::string& name) const {
-    std::ifstream file(folder / "pictures" / name, std::ios::binary);
+    std::ifstream file(folder.Path() / "pictures" / name, std::ios::binary);
     std::ostringstream bytes;
     bytes << file.rdbuf();
     return bytes.str();
   }
 
-  const std::filesystem::path folder =
-      std::filesystem::path(testing::TempDir()) /
-      testing::UnitTest::GetInstance()->current_test_info()->name();
+  const TemporaryFolder folder;
 };
 
 TEST_F(CurveReplay, ShowsEachMomentOfTheScript) {
@@ -59,7 +54,7 @@ TEST_F(CurveReplay, RefusesWhatIsNoEventOfTheEditor) {
       ADD_FAILURE() << line;
     } catch (const JobFailure& failure) {
       EXPECT_NE(std::string(failure.what()).find("e.txt, line 2: "), std::string::npos) << line;
-      EXPECT_FALSE(std::filesystem::exists(folder / "pictures")) << line;
+      EXPECT_FALSE(std::filesystem::exists(folder.Path() / "pictures")) << line;
     }
   }
 }
