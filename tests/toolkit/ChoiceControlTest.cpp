@@ -90,6 +90,7 @@ TEST(TitledPane, TheControlGetsWhatTheCaptionLeavesAndTakesTheMouseThere) {
 
 std::vector<std::string> Rows(int32_t count) {
   std::vector<std::string> rows;
+  rows.reserve(static_cast<size_t>(count));
   for (int32_t i = 0; i < count; ++i) rows.push_back("Row " + std::to_string(i));
   return rows;
 }

@@ -77,8 +77,8 @@ TEST(ScrollBar, APressBesideTheThumbGoesAViewOnAndADragMovesAlongTheContent) {
 
 struct PaneCase {
   Point content;
-  int32_t policy;
-  bool across, down;
+  int32_t policy = kBarAsNeeded;
+  bool across = false, down = false;
   Point room;
 };
 

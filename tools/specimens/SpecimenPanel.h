@@ -24,8 +24,8 @@ enum class Look {
 };
 
 struct NamedLook {
-  Look look;
-  const char* name;
+  Look look = Look::kNormal;
+  const char* name = "";
 };
 
 class SpecimenPanel : public CustomPanel {
@@ -42,7 +42,7 @@ class SpecimenPanel : public CustomPanel {
 
  protected:
   struct Specimen {
-    Look look;
+    Look look = Look::kNormal;
     Rect place;
     Point pointer;   // on what takes the mouse
     Point keyPoint;  // on what takes the focus
@@ -50,12 +50,12 @@ class SpecimenPanel : public CustomPanel {
   // A column for each look, from the left.
   struct Columns {
     std::span<const NamedLook> looks;
-    int32_t left;
-    int32_t step;
+    int32_t left = 0;
+    int32_t step = 0;
   };
   // A row of controls, one in each column.
   struct Row {
-    int32_t top;
+    int32_t top = 0;
     Point size;      // of a control
     Point pointer;   // from the control's top left, as in Specimen
     Point keyPoint;  //

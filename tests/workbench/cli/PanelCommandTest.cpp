@@ -43,7 +43,7 @@ const BadScript kBadScripts[] = {
     {"click 1 1 hyper", "\"hyper\" is none of shift, alt and ctrl"},
     {"release 1 1 double", "\"double\" is none of"},
     {"pick 0 0 256", "B is a whole number from 0 to 255, not \"256\""},
-    {"pick 1 2 3 4", "\"4\" is more than \"pick\" takes"},
+    {"pick 1 2 3 4", R"("4" is more than "pick" takes)"},
     {"instance 0", "N is a whole number from 1 to 64"},
     {"snapshot s.gif", "ends in .png, not \"s.gif\""},
     {"frame f.gif 3", "ends in .png, not \"f.gif\""},
