@@ -3,11 +3,15 @@
 
 #include <array>
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <vector>
 
 constexpr int32_t kClipSampleRateHz = 44100;
 constexpr int32_t kClipChannels = 2;
+
+// Gets `count` interleaved frames of a sound in the making, valid for the call.
+using TakeFrames = std::function<void(const int16_t* frames, int64_t count)>;
 
 // A frame is two signed 16-bit samples, left first. The frames lie in blocks of one size, so that a
 // long sound takes the room of its samples and no more while it grows.

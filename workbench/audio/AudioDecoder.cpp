@@ -1,4 +1,4 @@
-// Leads a file through reader, decoder and converter into a clip.
+// Tells raw sound from coded sound, and gathers either in a clip.
 #include "workbench/audio/AudioDecoder.h"
 
 #include <algorithm>
@@ -7,10 +7,8 @@
 #include <string>
 
 #include "workbench/Failure.h"
-#include "workbench/audio/Completeness.h"
-#include "workbench/audio/MediaReader.h"
-#include "workbench/audio/PacketDecoder.h"
-#include "workbench/audio/StereoConverter.h"
+#include "workbench/audio/CodedSound.h"
+#include "workbench/audio/RawSound.h"
 
 namespace {
 
@@ -29,28 +27,27 @@ std::string InHours(double seconds) {
   return text;
 }
 
-double Seconds(int64_t frames) {
-  return static_cast<double>(frames) / kClipSampleRateHz;
+bool IsRawSound(const std::filesystem::path& path) {
+  std::string extension = path.extension().string();
+  for (char& letter : extension) {
+    if (letter >= 'A' && letter <= 'Z') letter = static_cast<char>(letter - 'A' + 'a');
+  }
+  return extension == kRawSoundExtension;
 }
 
 AudioClip Decode(const std::filesystem::path& path, double longestSeconds) {
-  MediaReader reader(path);
   AudioClipBuilder builder;
-  StereoConverter converter([&](const int16_t* frames, int64_t count) {
-    if (Seconds(builder.FrameCount() + count) > longestSeconds)
+  const TakeFrames take = [&](const int16_t* frames, int64_t count) {
+    const auto seconds = static_cast<double>(builder.FrameCount() + count) / kClipSampleRateHz;
+    if (seconds > longestSeconds)
       throw JobFailure("is longer than " + InHours(longestSeconds) + ". Export the part you need.");
     builder.Append(frames, count);
-  });
-  PacketDecoder decoder(reader.Decoder(), reader.Sound(),
-                        [&](const AVFrame& frame) { converter.Convert(frame); });
-  const PacketOwner packet(av_packet_alloc());
-  if (packet == nullptr) throw std::bad_alloc();
-  while (reader.ReadPacket(*packet)) decoder.Decode(*packet);
-  decoder.Flush();
-  converter.Flush();
-  if (builder.FrameCount() == 0)
-    throw JobFailure("has an audio track without a single sample. Export it again.");
-  RequireWhole(reader, Seconds(builder.FrameCount()));
+  };
+  if (IsRawSound(path)) {
+    ReadRawSound(path, take);
+  } else {
+    DecodeCodedSound(path, take);
+  }
   return builder.Finish();
 }
 

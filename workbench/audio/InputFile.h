@@ -3,28 +3,28 @@
 
 #include <cstdint>
 #include <filesystem>
-#include <fstream>
+#include <istream>
 
 #include "workbench/FFmpeg.h"
+#include "workbench/audio/SoundFile.h"
 
 // FFmpeg gets bytes and needs no protocol to open them with, so that every protocol can be shut: no
 // playlist, session description or reference in a file makes it open another one or the network.
 class InputFile {
  public:
-  // Throws JobFailure if `path` isn't a file that can be read. Special files count as none: a
-  // device may never end and a pipe may never begin.
+  // Throws JobFailure as OpenSoundFile does.
   explicit InputFile(const std::filesystem::path& path);
   InputFile(const InputFile&) = delete;
   InputFile& operator=(const InputFile&) = delete;
 
   // The size in bytes when the file was opened.
-  int64_t Size() const { return size; }
+  int64_t Size() const { return opened.size; }
 
   // Owned by this object; valid as long as it lives.
   AVIOContext* Io() const { return io.get(); }
 
   // The same bytes, for the readers of chunk sizes. Not to be used while FFmpeg reads.
-  std::istream& Stream() { return stream; }
+  std::istream& Stream() { return opened.stream; }
 
   // Throws JobFailure if a read has failed; the end of the file is no failure.
   void RequireReadable() const;
@@ -33,8 +33,7 @@ class InputFile {
   static int Read(void* self, uint8_t* buffer, int bufferSize);
   static int64_t Seek(void* self, int64_t offset, int whence);
 
-  std::ifstream stream;
-  int64_t size = 0;
+  SoundFile opened;
   int64_t position = 0;
   bool hasFailed = false;
   IoOwner io;

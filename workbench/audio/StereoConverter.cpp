@@ -7,7 +7,6 @@
 #include <utility>
 
 #include "workbench/Failure.h"
-#include "workbench/audio/AudioClip.h"
 
 namespace {
 

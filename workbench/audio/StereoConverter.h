@@ -2,18 +2,16 @@
 #pragma once
 
 #include <cstdint>
-#include <functional>
 #include <span>
 #include <vector>
 
 #include "workbench/FFmpeg.h"
+#include "workbench/audio/AudioClip.h"
 
 class StereoConverter {
  public:
-  // Gets `count` interleaved stereo frames, valid for the call. May throw.
-  using TakeFrames = std::function<void(const int16_t* frames, int64_t count)>;
-
-  explicit StereoConverter(TakeFrames takeFrames);
+  // take   may throw
+  explicit StereoConverter(TakeFrames take);
 
   // One channel goes to both sides at full level, two stay as they are, more are mixed down. Frames
   // that have the clip's form already keep their bits.

@@ -5,6 +5,7 @@
 #include <charconv>
 
 #include "workbench/Failure.h"
+#include "workbench/FileName.h"
 
 namespace {
 
@@ -38,10 +39,10 @@ FrameNames::FrameNames(const std::filesystem::path& pattern)
 }
 
 std::filesystem::path FrameNames::NameOf(int64_t number) const {
-  if (!hasNumber) return folder / before;
+  if (!hasNumber) return folder / PathFromUtf8(before);
   const std::string sign = number < 0 ? "-" : "";
   const std::string digits = std::to_string(number).substr(sign.size());
   const size_t letters = sign.size() + digits.size();
   const std::string zeros(shortest - std::min(shortest, letters), '0');
-  return folder / (before + sign + zeros + digits + behind);
+  return folder / PathFromUtf8(before + sign + zeros + digits + behind);
 }

@@ -60,6 +60,8 @@ TEST(BadSoundFile, IsRefusedForTheBytesInIt) {
   };
   const TemporaryFolder folder;
   for (const auto& [bytes, hint] : cases) ExpectRefusal(folder.Write("a.wav", bytes), hint);
+  ExpectRefusal(folder.Write("a.pcm", ""), "is empty");
+  ExpectRefusal(folder.Write("a.PCM", "abcdef"), "is 6 bytes long, which is no multiple of 4");
 }
 
 TEST(BadSoundFile, KeepsControlCodesOfItsNameOutOfTheMessage) {
@@ -72,6 +74,9 @@ TEST(BadSoundFile, IsRefusedWhenItUnpacksToMoreThanTheLimit) {
   const path file = folder.Write("long.wav", kSecond);
   EXPECT_THAT(MessageFor(file, 0.999), HasSubstr("long.wav: is longer than"));
   EXPECT_EQ(MessageFor(file, 1.0), "decoded 44100 frames");
+  const path raw = folder.Write("long.pcm", std::string(size_t{4} * 44100, 'a'));
+  EXPECT_THAT(MessageFor(raw, 0.999), HasSubstr("long.pcm: is longer than"));
+  EXPECT_EQ(MessageFor(raw, 1.0), "decoded 44100 frames");
 }
 
 TEST(BadSoundFile, OfAnyBytesEitherDecodesOrIsRefused) {
