@@ -58,7 +58,8 @@ void Replay(DemoCurveEditor& editor, const ScriptEvent& event,
     }
     case Kind::kSnapshot:
       return WriteSnapshot(editor, folder / event.file);
-    case Kind::kFrame:  // none of the editor's events
+    case Kind::kCalls:  // none of the editor's events
+    case Kind::kFrame:
     case Kind::kAnswer:
     case Kind::kInstance:
       return;

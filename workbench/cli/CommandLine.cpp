@@ -6,7 +6,9 @@
 #include <iostream>
 
 #include "workbench/Failure.h"
+#include "workbench/FileName.h"
 #include "workbench/cli/ApplyCommand.h"
+#include "workbench/cli/DecodeCommand.h"
 #include "workbench/cli/Options.h"
 #include "workbench/cli/PanelCommand.h"
 #include "workbench/cli/PanelOptions.h"
@@ -53,9 +55,15 @@ FrameRate ParseRate(const std::string& text) {
   return rate;
 }
 
+CLI::Option* AddFile(CLI::App& command, const char* name, std::filesystem::path& target,
+                     const char* help) {
+  return command.add_option_function<std::string>(
+      name, [&target](const std::string& text) { target = PathFromUtf8(text); }, help);
+}
+
 void AddStageOptions(CLI::App& command, StageOptions& options) {
-  command.add_option("--plugin", options.plugin,
-                     "The plug-in's library; default: the one beside the workbench");
+  AddFile(command, "--plugin", options.plugin,
+          "The plug-in's library; default: the one beside the workbench");
   command.add_option_function<std::string>(
       "--size", [&options](const std::string& text) { options.size = ParseSize(text); },
       "Comp and layer size, WxH; default 1920x1080");
@@ -71,10 +79,9 @@ void AddStageOptions(CLI::App& command, StageOptions& options) {
   command.add_option("--set", options.settings, "NAME=VALUE, sets a parameter; repeatable")
       ->take_all()
       ->allow_extra_args(false);
-  command.add_option("--project", options.project,
-                     "Reads parameters and record from this file if it exists, writes them back");
-  command.add_option("--record", options.record,
-                     "Writes the 3112 bytes of the record to this file");
+  AddFile(command, "--project", options.project,
+          "Reads parameters and record from this file if it exists, writes them back");
+  AddFile(command, "--record", options.record, "Writes the 3112 bytes of the record to this file");
   command.add_flag("--quiet", options.quiet, "No progress and no table");
 }
 
@@ -83,13 +90,12 @@ void AddRenderOptions(CLI::App& command, RenderOptions& options) {
     return command.add_option_function<std::string>(
         name, [parse, &target](const std::string& text) { target = parse(text); }, help);
   };
-  command.add_option("AUDIO", options.audio, "Any audio or video file")->required();
+  AddFile(command, "AUDIO", options.audio, "Any audio or video file")->required();
   add("--frames", ParseFrames, options.frames,
       "A..B or N, numbers of the comp's frames; or loudest, the frame at the loudest moment")
       ->required();
-  command
-      .add_option("--out", options.out,
-                  "PNG files, such as frames/%05d.png with the frame's number, or a .mov")
+  AddFile(command, "--out", options.out,
+          "PNG files, such as frames/%05d.png with the frame's number, or a .mov")
       ->required();
   add("--downsample", ParseDownsample, options.downsample, "Renders at 1/N of the size; default 1");
   add("--over", ParseGround, options.ground,
@@ -103,19 +109,27 @@ void AddPanelOptions(CLI::App& command, PanelOptions& options) {
     command.add_option_function<std::string>(
         name, [parse, &target](const std::string& text) { target = parse(text); }, help);
   };
-  command.add_option("AUDIO", options.audio, "Any audio or video file; default: silence");
-  command.add_option("--events", options.events, "What the user does, one event a line");
-  command.add_option("--out", options.out, "The row's picture, a .png file")->required();
+  AddFile(command, "AUDIO", options.audio, "Any audio or video file; default: silence");
+  AddFile(command, "--events", options.events, "What the user does, one event a line");
+  AddFile(command, "--out", options.out,
+          "The row, a .png or .txt file: its picture, or its drawing calls")
+      ->required();
   add("--row", ParseRow, options.row, "color-map or commands; default color-map");
   add("--zoom", ParseZoom, options.zoom, "Pixels for each of the row, 1 to 8; default 1");
   add("--panel-color", ParsePanelColor, options.color,
       "R,G,B of the host's panel, each 0 to 255; default 45,45,45");
   add("--over", ParseGround, options.ground,
       "checker or black: puts a ground behind the frames of a script; default none");
-  command.add_option("--keyframes", options.keyframes,
-                     "What the last run wrote: a .csv, .json or .txt file");
-  command.add_option("--record-calls", options.recordCalls,
-                     "The drawing calls of the last draw, one a line");
+  AddFile(command, "--keyframes", options.keyframes,
+          "What the last run wrote: a .csv, .json or .txt file");
+  AddFile(command, "--record-calls", options.recordCalls,
+          "The drawing calls of the last draw, one a line");
+}
+
+void AddDecodeOptions(CLI::App& command, DecodeOptions& options) {
+  AddFile(command, "AUDIO", options.audio, "Any audio or video file")->required();
+  AddFile(command, "--out", options.out, "The raw sound, a .pcm file")->required();
+  command.add_flag("--quiet", options.quiet, "Prints nothing");
 }
 
 int RunParams(const StageOptions& options, bool asJson) {
@@ -136,7 +150,7 @@ int RunAbout(const StageOptions& options) {
 
 }  // namespace
 
-int RunCommandLine(int argc, const char* const* argv) {
+int RunCommandLine(const std::vector<std::string>& arguments) {
   CLI::App app("Runs the Delvior plug-in without its host application.", "workbench");
   app.require_subcommand(1);
   StageOptions stageOptions;
@@ -144,8 +158,8 @@ int RunCommandLine(int argc, const char* const* argv) {
   bool asJson = false;
 
   CLI::App* apply = app.add_subcommand("apply", "Turns a sound into keyframes");
-  apply->add_option("AUDIO", applyOptions.audio, "Any audio or video file")->required();
-  apply->add_option("--out", applyOptions.out, "The keyframes: a .csv, .json or .txt file")
+  AddFile(*apply, "AUDIO", applyOptions.audio, "Any audio or video file")->required();
+  AddFile(*apply, "--out", applyOptions.out, "The keyframes: a .csv, .json or .txt file")
       ->required();
   RenderOptions renderOptions;
   CLI::App* render = app.add_subcommand("render", "Renders the graph to pictures or a movie");
@@ -155,12 +169,16 @@ int RunCommandLine(int argc, const char* const* argv) {
   AddPanelOptions(*panel, panelOptions);
   CLI::App* params = app.add_subcommand("params", "Lists the parameters");
   params->add_flag("--json", asJson, "As JSON");
+  DecodeOptions decodeOptions;
+  CLI::App* decode = app.add_subcommand("decode", "Turns any sound into raw sound");
+  AddDecodeOptions(*decode, decodeOptions);
   CLI::App* about = app.add_subcommand("about", "Shows the About text");
   for (CLI::App* command : {apply, render, panel, params, about})
     AddStageOptions(*command, stageOptions);
 
   try {
-    app.parse(argc, argv);
+    // The parser takes them from the last to the first.
+    app.parse(std::vector<std::string>(arguments.rbegin(), arguments.rend()));
   } catch (const CLI::ParseError& failure) {
     if (failure.get_exit_code() == 0) return app.exit(failure);
     throw UsageFailure(std::string(failure.what()) + ". Run with --help for what there is.");
@@ -169,5 +187,6 @@ int RunCommandLine(int argc, const char* const* argv) {
   if (render->parsed()) return RunRender(stageOptions, renderOptions);
   if (panel->parsed()) return RunPanel(stageOptions, panelOptions);
   if (params->parsed()) return RunParams(stageOptions, asJson);
+  if (decode->parsed()) return RunDecode(decodeOptions);
   return RunAbout(stageOptions);
 }

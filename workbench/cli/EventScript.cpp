@@ -11,6 +11,7 @@
 #include <string_view>
 
 #include "workbench/Failure.h"
+#include "workbench/FileName.h"
 
 namespace {
 
@@ -101,7 +102,7 @@ void TakeKey(Words& words, ScriptEvent& event) {
 }
 
 bool IsPicture(std::string_view name) {
-  return std::filesystem::path(name).extension() == ".png";
+  return PathFromUtf8(name).extension() == ".png";
 }
 
 // The name of a picture, which may hold blanks.
@@ -109,11 +110,19 @@ void TakePicture(std::string_view name, const char* taker, ScriptEvent& event) {
   if (!IsPicture(name)) {
     Refuse(std::string(taker) + " takes the name of a file that ends in .png, not " + Shown(name));
   }
-  event.file = name;
+  event.file = PathFromUtf8(name);
 }
 
 void TakeSnapshot(Words& words, ScriptEvent& event) {
   TakePicture(words.Rest(), "snapshot", event);
+  words = Words({});
+}
+
+void TakeCalls(Words& words, ScriptEvent& event) {
+  event.file = PathFromUtf8(words.Rest());
+  if (event.file.extension() != ".txt") {
+    Refuse("calls takes the name of a file that ends in .txt, not " + Shown(words.Rest()));
+  }
   words = Words({});
 }
 
@@ -151,7 +160,7 @@ struct EventWord {
   Kind kind;
   void (*take)(Words& words, ScriptEvent& event);
 };
-constexpr std::array<EventWord, 11> kEventWords = {{
+constexpr std::array<EventWord, 12> kEventWords = {{
     {"click", Kind::kClick, TakePointer},
     {"drag", Kind::kDrag, TakePointer},
     {"release", Kind::kRelease, TakePointer},
@@ -159,6 +168,7 @@ constexpr std::array<EventWord, 11> kEventWords = {{
     {"key", Kind::kKey, TakeKey},
     {"draw", Kind::kDraw, TakeNothing},
     {"snapshot", Kind::kSnapshot, TakeSnapshot},
+    {"calls", Kind::kCalls, TakeCalls},
     {"frame", Kind::kFrame, TakeFrame},
     {"pick", Kind::kAnswer, TakeColor},
     {"cancel", Kind::kAnswer, TakeNothing},

@@ -21,6 +21,7 @@ struct ScriptEvent {
     kKey,
     kDraw,
     kSnapshot,
+    kCalls,
     kFrame,
     kAnswer,
     kInstance
@@ -31,7 +32,7 @@ struct ScriptEvent {
   PF_Point point{};                    // of a pointer's event, in the row
   PF_Modifiers modifiers = 0;          //
   A_long clicks = 1;                   // of a click
-  std::filesystem::path file;          // of a snapshot or a frame
+  std::filesystem::path file;          // of a snapshot, of calls or of a frame
   std::optional<int64_t> frame;        // the number of a frame; none: the loudest one
   std::optional<PF_PixelFloat> color;  // of an answer to the colour picker; none: cancelled
   int32_t number = 1;                  // of an instance, 1 to kMostInstances; the code of a key
@@ -42,7 +43,7 @@ struct ScriptEvent {
 //
 //   click X Y [shift] [alt] [ctrl] [double]     drag, release and move X Y [shift] [alt] [ctrl]
 //   draw      snapshot FILE.png      pick R G B, each 0 to 255      cancel      instance N
-//   frame FILE.png [N]               key CODE [shift] [alt] [ctrl]
+//   frame FILE.png [N]    calls FILE.txt    key CODE [shift] [alt] [ctrl]
 //
 // A # and all behind it is a comment.
 std::vector<ScriptEvent> ReadEventScript(const std::filesystem::path& path,

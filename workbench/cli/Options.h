@@ -38,3 +38,9 @@ struct ApplyOptions {
   std::filesystem::path audio;
   std::filesystem::path out;
 };
+
+struct DecodeOptions {
+  std::filesystem::path audio;
+  std::filesystem::path out;
+  bool quiet = false;
+};

@@ -11,8 +11,9 @@
 #include "workbench/cli/EventScript.h"
 #include "workbench/cli/KeyframeRun.h"
 #include "workbench/cli/LoudestFrame.h"
+#include "workbench/cli/RowFile.h"
 #include "workbench/cli/Stage.h"
-#include "workbench/drawbot/CairoCanvas.h"
+#include "workbench/drawbot/PictureCanvas.h"
 #include "workbench/export/FrameAsPng.h"
 #include "workbench/export/Ground.h"
 #include "workbench/export/PartFile.h"
@@ -21,9 +22,9 @@ namespace {
 
 using Kind = ScriptEvent::Kind;
 
-constexpr Kind kRowEvents[] = {Kind::kClick, Kind::kDrag,   Kind::kRelease,
-                               Kind::kMove,  Kind::kDraw,   Kind::kSnapshot,
-                               Kind::kFrame, Kind::kAnswer, Kind::kInstance};
+constexpr Kind kRowEvents[] = {Kind::kClick,  Kind::kDrag,     Kind::kRelease, Kind::kMove,
+                               Kind::kDraw,   Kind::kSnapshot, Kind::kCalls,   Kind::kFrame,
+                               Kind::kAnswer, Kind::kInstance};
 
 // A frame as the host keeps it: good until the effect asks for it anew.
 struct ShownFrame {
@@ -50,8 +51,8 @@ ShownRow OpenRow(Stage& stage, EffectInstance& instance, const PanelOptions& opt
                      std::to_string(area.width) + " x " + std::to_string(area.height) +
                      " pixels, so there is nothing to see of it.");
   }
-  shown.canvas = NewCairoCanvas(area, options.color);
-  shown.row->canvas = shown.canvas.get();
+  shown.canvas = NewPictureCanvas(area, options.color);
+  shown.row->canvas = shown.canvas.get();  // none: what is drawn is recorded alone
   shown.row->screenScale = static_cast<float>(options.zoom);
   shown.row->Draw();
   return shown;
@@ -64,12 +65,6 @@ std::string RenderAsPng(Stage& stage, EffectInstance& instance, int64_t number, 
   std::vector<PF_Pixel8> room;
   return FrameAsPng(LayOver(
       ground, {world.Row(0).data(), world.RowBytes(), world.Width(), world.Height()}, room));
-}
-
-std::string PngOf(const PictureCanvas& canvas) {
-  const Picture picture = canvas.Copy();
-  return FrameAsPng({picture.pixels.data(), picture.width * static_cast<int32_t>(sizeof(PF_Pixel8)),
-                     picture.width, picture.height});
 }
 
 // The panel while a script is replayed in it.
@@ -97,8 +92,9 @@ class PanelReplay {
         Row().pane.Invalidate(nullptr);
         return Row().Draw();
       case Kind::kSnapshot:
+      case Kind::kCalls:
         Row().DrawIfInvalid();
-        return Add(event.file, PngOf(*rows[current].canvas));
+        return AddRow(event.file);
       case Kind::kFrame:
         return Add(event.file, FrameOf(rows[current], event.frame.value_or(loudestFrame)));
       case Kind::kAnswer:
@@ -112,7 +108,7 @@ class PanelReplay {
   void Finish() {
     Row().pane.Invalidate(nullptr);
     Row().Draw();
-    Add(options.out, PngOf(*rows[current].canvas));
+    AddRow(options.out);
     if (!options.recordCalls.empty()) Add(options.recordCalls, CallLines());
     if (!options.keyframes.empty()) {
       const KeyframeTable table = TableOf(stage, Row().lastRun);
@@ -172,6 +168,10 @@ class PanelReplay {
     file.Close();
   }
 
+  void AddRow(const std::filesystem::path& path) {
+    Add(path, RowFileBytes(path, rows[current].canvas.get(), Row().lastCalls));
+  }
+
   std::string CallLines() {
     std::string lines;
     for (const DrawCall& call : Row().lastCalls) lines += DrawCallText(call) + "\n";
@@ -203,12 +203,17 @@ std::shared_ptr<const AudioClip> SoundOf(const PanelOptions& options) {
 }  // namespace
 
 int RunPanel(const StageOptions& stageOptions, const PanelOptions& options) {
-  if (options.out.extension() != ".png") {
-    throw UsageFailure("--out " + options.out.string() + ": the file's name has to end in .png.");
+  if (!IsRowFile(options.out)) {
+    throw UsageFailure("--out " + options.out.string() +
+                       ": the file's name has to end in .png or .txt.");
   }
+  RequirePaintable(options.out);
   if (!options.keyframes.empty()) WriterFor("--keyframes", options.keyframes);
   std::vector<ScriptEvent> script;
   if (!options.events.empty()) script = ReadEventScript(options.events, kRowEvents);
+  for (const ScriptEvent& event : script) {
+    if (event.kind == Kind::kSnapshot) RequirePaintable(event.file);
+  }
   const std::string layerName = options.audio.empty() ? "Solid" : options.audio.filename().string();
   const std::shared_ptr<const AudioClip> sound = SoundOf(options);
   Stage stage(stageOptions, layerName, sound);

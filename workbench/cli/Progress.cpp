@@ -1,9 +1,9 @@
 // Writes one line over and over.
 #include "workbench/cli/Progress.h"
 
-#include <unistd.h>
-
 #include <cstdio>
+
+#include "workbench/cli/Console.h"
 
 namespace {
 
@@ -12,7 +12,7 @@ constexpr const char* kWipeLine = "\r\033[K";
 
 }  // namespace
 
-ProgressLine::ProgressLine(bool quiet) : enabled(!quiet && isatty(STDERR_FILENO) != 0) {}
+ProgressLine::ProgressLine(bool quiet) : enabled(!quiet && IsErrorStreamATerminal()) {}
 
 ProgressLine::~ProgressLine() {
   if (shown) std::fputs(kWipeLine, stderr);

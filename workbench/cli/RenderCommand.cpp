@@ -16,7 +16,7 @@
 #include "workbench/cli/Progress.h"
 #include "workbench/cli/Stage.h"
 #include "workbench/export/FrameNames.h"
-#include "workbench/export/MovieFile.h"
+#include "workbench/export/NewMovie.h"
 #include "workbench/export/PngFiles.h"
 
 namespace {
@@ -29,6 +29,7 @@ bool IsMovie(const RenderOptions& options) {
 void CheckOut(const RenderOptions& options) {
   const std::string out = options.out.string();
   if (IsMovie(options)) {
+    RequireMovies(options.out);
     RequireTarget(options.out);
     return;
   }
@@ -62,8 +63,7 @@ FrameSize RenderedSize(const Comp& comp, uint32_t downsample) {
 std::unique_ptr<FrameOutput> OpenOutput(const RenderOptions& options, const Comp& comp,
                                         const FrameSize& size) {
   if (!IsMovie(options)) return std::make_unique<PngFiles>(FrameNames(options.out));
-  return std::make_unique<MovieFile>(options.out, size.width, size.height, comp.timeScale,
-                                     comp.timeStep);
+  return NewMovie(options.out, size.width, size.height, comp.timeScale, comp.timeStep);
 }
 
 // What one thread works with, frame after frame.

@@ -7,6 +7,7 @@
 
 #include "workbench/Failure.h"
 #include "workbench/cli/CommandLine.h"
+#include "workbench/cli/Console.h"
 
 namespace {
 
@@ -23,7 +24,8 @@ int main(int argc, char** argv) {
   constexpr int kJobFailed = 1;
   constexpr int kWrongCommandLine = 2;
   try {
-    const int status = RunCommandLine(argc, argv);
+    SetUpConsole();
+    const int status = RunCommandLine(ConsoleArguments(argc, argv));
     if (std::cout.flush()) return status;
     ShowFailure("What was to be printed could not be written. Is the disk full?");
     return kJobFailed;

@@ -1,12 +1,11 @@
 // Paints paths, text and images into an image surface.
-#include "workbench/drawbot/CairoCanvas.h"
-
 #include <algorithm>
 #include <cmath>
 #include <numbers>
 
 #include "workbench/Failure.h"
 #include "workbench/drawbot/CairoObjects.h"
+#include "workbench/drawbot/PictureCanvas.h"
 
 namespace {
 
@@ -252,6 +251,10 @@ class CairoCanvas : public PictureCanvas {
 
 }  // namespace
 
-std::unique_ptr<PictureCanvas> NewCairoCanvas(const CanvasArea& area, PF_Pixel8 ground) {
+bool CanPaintPictures() {
+  return true;
+}
+
+std::unique_ptr<PictureCanvas> NewPictureCanvas(const CanvasArea& area, PF_Pixel8 ground) {
   return std::make_unique<CairoCanvas>(area, ground);
 }

@@ -45,3 +45,16 @@ std::string DrawCallText(const DrawCall& call) {
   for (const double number : call.numbers) text += NumberText(number);
   return text;
 }
+
+std::string DrawCallTextWithPixels(const DrawCall& call) {
+  std::string text = DrawCallText(call) + "\n";
+  if (call.pixels.empty()) return text;
+  const auto width = static_cast<size_t>(call.numbers.front());
+  for (size_t i = 0; i < call.pixels.size(); ++i) {
+    std::array<char, 16> pixel{};
+    std::snprintf(pixel.data(), pixel.size(), " %08x", static_cast<unsigned>(call.pixels[i]));
+    text += (i % width == 0 ? " " : "") + std::string(pixel.data());
+    if ((i + 1) % width == 0) text += '\n';
+  }
+  return text;
+}

@@ -1,6 +1,7 @@
 // One drawing call as it was made: what a test reads, and a line of text.
 #pragma once
 
+#include <cstdint>
 #include <optional>
 #include <string>
 #include <vector>
@@ -22,8 +23,13 @@ struct DrawCall {
   //   DrawImage                         the image's width and height, x, y, opacity
   //   SetInterpolationPolicy, SetAntiAliasPolicy   the policy
   std::vector<double> numbers;
+  std::vector<uint32_t> pixels = {};  // of a DrawImage, in the canvas's layout, without gaps
 };
 
 // One line without its end, such as
 // "FillPath color 0.1 0.1 0.1 1 path rect(0 40 300 15) numbers 1".
 std::string DrawCallText(const DrawCall& call);
+
+// The same, each line with its end, and behind a DrawImage its rows of pixels, such as
+// "  ff2d2d2d ff000000".
+std::string DrawCallTextWithPixels(const DrawCall& call);

@@ -46,6 +46,7 @@ void Drawing::DrawString(const DrawBrush& brush, std::u16string_view text, Place
 void Drawing::PlaceImage(const DrawImage& image, const DRAWBOT_PointF32& origin, float opacity) {
   Note("DrawImage", {static_cast<double>(image.width), static_cast<double>(image.height), origin.x,
                      origin.y, opacity});
+  calls.back().pixels = image.pixels;
   if (canvas != nullptr) canvas->PlaceImage(State(), image, origin, opacity);
 }
 

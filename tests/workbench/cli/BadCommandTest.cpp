@@ -43,6 +43,8 @@ const BadCase kBadCases[] = {
     {ApplyAnd({"--plugin", "none.so"}), 1, "none.so: there is no such plug-in library"},
     {ApplyAnd({"--plugin", "text"}), 1, "text: is not a library that loads here"},
     {ApplyAnd({"--plugin", HOLLOW_LIBRARY}), 1, "has no function EntryPointFunc"},
+    {{"decode", "a.wav", "--out", "o.wav"}, 2, "has to end in .pcm"},
+    {{"decode", "a.wav", "--out", "none/o.pcm"}, 1, "the folder none does not exist"},
     {ApplyAnd({"--project", "folder"}), 1, "folder: is not a project"},
 };
 

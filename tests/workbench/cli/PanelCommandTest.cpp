@@ -34,8 +34,8 @@ struct BadScript {
 const BadScript kBadScripts[] = {
     {"dance\n", "e.txt, line 1: \"dance\" is none of click"},
     {"key 13",
-     "\"key\" is none of click, drag, release, move, draw, snapshot, frame, pick, cancel and "
-     "instance"},
+     "\"key\" is none of click, drag, release, move, draw, snapshot, calls, frame, pick, "
+     "cancel and instance"},
     {"# one\n\nclick 1\n",
      "line 3: Y is a whole number from -2147483648 to 2147483647, not nothing"},
     {"click 2147483648 0\n", "line 1: X is a whole number"},
@@ -46,6 +46,7 @@ const BadScript kBadScripts[] = {
     {"pick 1 2 3 4", R"("4" is more than "pick" takes)"},
     {"instance 0", "N is a whole number from 1 to 64"},
     {"snapshot s.gif", "ends in .png, not \"s.gif\""},
+    {"calls s.png", "ends in .txt, not \"s.png\""},
     {"frame f.gif 3", "ends in .png, not \"f.gif\""},
     {"frame f.png 1.5", "N is a whole number from -2147483647 to 2147483647, not \"1.5\""},
     {"draw\nsnapshot none/s.png", "the folder none does not exist"},
@@ -91,6 +92,24 @@ TEST_F(PanelRun, ShowsEachStateOfTheRowAndWhatASnapshotSaw) {
   EXPECT_NE(Picture("", "--zoom 2 --record-calls c.txt"), normal);
   EXPECT_EQ(Read(folder.Path() / "c.txt").find("SetAntiAliasPolicy numbers 2\nPushStateStack\n"),
             0U);
+}
+
+TEST_F(PanelRun, ATextHoldsEveryCallAndEveryPixelOfAnImage) {
+  folder.Write("m.txt", "calls s.txt\nclick 34 38");
+  ASSERT_EQ(Run({"panel", "--events", "m.txt", "--out", "o.txt", "--record-calls", "c.txt"}).status,
+            0);
+  std::istringstream lines(Read(folder.Path() / "o.txt"));
+  std::string calls;
+  size_t pixels = 0;
+  for (std::string line; std::getline(lines, line);) {
+    const bool isRow = line.starts_with("  ");
+    pixels += isRow ? (line.size() - 1) / 9 : 0;
+    calls += isRow ? "" : line + "\n";
+  }
+  EXPECT_EQ(calls, Read(folder.Path() / "c.txt"));
+  EXPECT_NE(calls.find("DrawImage numbers 612 260 "), std::string::npos) << calls;
+  EXPECT_EQ(pixels, 612U * 260U);
+  EXPECT_NE(Read(folder.Path() / "s.txt"), lines.str()) << "a stop was added";
 }
 
 TEST_F(PanelRun, AFrameIsWhatTheHostShowsThen) {

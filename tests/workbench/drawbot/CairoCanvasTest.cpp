@@ -1,6 +1,6 @@
 // Catches paintings that land elsewhere, under another rule, or not in the picture's own pixels;
 // and numbers that make cairo give up.
-#include "workbench/drawbot/CairoCanvas.h"
+#include "workbench/drawbot/PictureCanvas.h"
 
 #include <gtest/gtest.h>
 
@@ -21,7 +21,7 @@ PathStep Rect(float left, float top, float width, float height) {
 class BlackCanvas {
  public:
   explicit BlackCanvas(int32_t zoom = 1)
-      : canvas(NewCairoCanvas({0, 40, 10, 8, zoom}, {255, 0, 0, 0})) {
+      : canvas(NewPictureCanvas({0, 40, 10, 8, zoom}, {255, 0, 0, 0})) {
     state.clip = kEverywhere;
   }
 
@@ -110,8 +110,8 @@ TEST(CairoCanvas, StaysUsableBehindMatricesAndPensOfAnyKind) {
   EXPECT_EQ(canvas.Light(), 0.0);
   canvas.Fill({Rect(0, 40, 2, 2)});
   EXPECT_NEAR(canvas.Light(), 4.0, 0.01);
-  EXPECT_THROW(NewCairoCanvas({0, 0, 32767, 1, 2}, {}), JobFailure);
-  EXPECT_TRUE(NewCairoCanvas({0, 0, 0, 0, 1}, {})->Copy().pixels.empty());
+  EXPECT_THROW(NewPictureCanvas({0, 0, 32767, 1, 2}, {}), JobFailure);
+  EXPECT_TRUE(NewPictureCanvas({0, 0, 0, 0, 1}, {})->Copy().pixels.empty());
 }
 
 TEST(CairoCanvas, ShrinksAnImageOfTwiceTheSizeToTheMeanOfItsPixels) {

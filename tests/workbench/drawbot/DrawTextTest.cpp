@@ -1,7 +1,7 @@
 // Catches text that stands beside its place, is wider than it may be, or is no text at all.
 #include <gtest/gtest.h>
 
-#include "workbench/drawbot/CairoCanvas.h"
+#include "workbench/drawbot/PictureCanvas.h"
 #include "workbench/drawbot/Utf16Text.h"
 
 namespace {
@@ -13,7 +13,7 @@ struct Columns {
 };
 
 Columns ColumnsOf(const PlacedText& text) {
-  const auto canvas = NewCairoCanvas({0, 0, 100, 30, 1}, {255, 0, 0, 0});
+  const auto canvas = NewPictureCanvas({0, 0, 100, 30, 1}, {255, 0, 0, 0});
   DrawState state;
   state.clip = {0, 0, 100, 30};
   canvas->PlaceText(state, {1, 1, 1, 1}, text);
