@@ -7,6 +7,7 @@
 #include <cstdint>
 #include <cstring>
 #include <memory>
+#include <numbers>
 #include <string>
 #include <utility>
 #include <vector>
@@ -26,7 +27,7 @@ inline std::shared_ptr<const AudioClip> PulsingSine(double seconds) {
   for (int64_t n = 0; n < count; ++n) {
     const double time = static_cast<double>(n) / kClipSampleRateHz;
     const bool sounds = time - std::floor(time) < 0.5;
-    const double value = sounds ? 20000.0 * std::sin(2.0 * M_PI * 509.66 * time) : 0.0;
+    const double value = sounds ? 20000.0 * std::sin(2.0 * std::numbers::pi * 509.66 * time) : 0.0;
     frames.insert(frames.end(), 2, static_cast<int16_t>(value));
   }
   AudioClipBuilder builder;
