@@ -34,7 +34,7 @@ void WriteSnapshot(DemoCurveEditor& editor, const std::filesystem::path& file) {
   ImageBuffer picture;
   Picture(editor, picture);
   WriteDemoPicture(picture, file);
-  std::printf("%s\n", file.c_str());
+  std::printf("%s\n", file.string().c_str());
 }
 
 void Replay(DemoCurveEditor& editor, const ScriptEvent& event,

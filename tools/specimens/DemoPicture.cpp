@@ -15,7 +15,7 @@ void WriteDemoPicture(const ImageBuffer& picture, const std::filesystem::path& f
   image.width = static_cast<png_uint_32>(picture.Width());
   image.height = static_cast<png_uint_32>(picture.Height());
   image.format = PNG_FORMAT_BGRA;
-  if (png_image_write_to_file(&image, file.c_str(), 0, picture.Row(0), picture.RowBytes(),
+  if (png_image_write_to_file(&image, file.string().c_str(), 0, picture.Row(0), picture.RowBytes(),
                               nullptr) == 0) {
     throw std::filesystem::filesystem_error(image.message, file, {});
   }

@@ -36,7 +36,7 @@ void WritePage(const Page& page, int scale, const std::filesystem::path& folder)
   page.draw(picture);
   const auto file = folder / (std::string(page.name) + "-" + std::to_string(scale) + "x.png");
   WriteDemoPicture(picture, file);
-  std::printf("%s\n", file.c_str());
+  std::printf("%s\n", file.string().c_str());
 }
 
 }  // namespace
