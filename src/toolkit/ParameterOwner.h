@@ -27,7 +27,7 @@ class ParameterOwner {
   virtual int32_t GetParameterIndexByName(const std::string& name) const;
   virtual int32_t GetParameterIndex(const Parameter* parameter) const;
   virtual void FlushParameterChanges();
-  // OnParameterChanged for each that has changed.
+  // OnParameterChanged for each that has changed; it may drop parameters, but not delete this.
   virtual void NotifyParameterChanges();
 
  private:
