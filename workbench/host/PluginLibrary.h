@@ -2,9 +2,9 @@
 #pragma once
 
 #include <filesystem>
-#include <memory>
 
 #include "AE_Effect.h"
+#include "workbench/host/SystemModule.h"
 
 class PluginLibrary {
  public:
@@ -18,6 +18,6 @@ class PluginLibrary {
   PF_EntryPoint EntryPoint() const { return entryPoint; }
 
  private:
-  std::shared_ptr<void> module;
+  SystemModule module;
   PF_EntryPoint entryPoint = nullptr;
 };
